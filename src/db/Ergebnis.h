@@ -1,0 +1,59 @@
+// What a statement gives: its columns and all its rows.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringView>
+#include <memory>
+#include <vector>
+
+#include "Zelle.h"
+
+namespace marklink::db {
+
+enum class Feldart : quint8 { Text, Ganzzahl, Gleitkomma, Datum, Ja_Nein, Binaer, Offen };
+
+struct Feld {
+  QString Name;
+  Feldart Art = Feldart::Offen;  ///< Offen: a computed column, its values say what they are
+  int Bits = 32;                 ///< of a whole number: 16, 32 or 64
+  bool Autowert = false;
+  int Tabelle = -1;       ///< index into Spaltensatz::Tabellen, -1 for a computed column
+  QString Ursprung;       ///< the column's name in that table
+  QByteArray Geklammert;  ///< the same for a statement, [name]
+};
+
+struct Basistabelle {
+  QString Name;
+  std::vector<int> Schluessel;      ///< the fields of the set that make up the whole primary key; else empty
+  std::vector<bool> Nachschlagbar;  ///< by field: an index of the table begins with it
+};
+
+/// The columns of a result; shared by all record sets on the same statement.
+struct Spaltensatz {
+  std::vector<Feld> Felder;
+  std::vector<Basistabelle> Tabellen;
+  /// A hidden cell behind the fields that holds the engine's row number; -1 when there is none. Rows come in
+  /// ascending order of it when `Ganze_Tabelle`.
+  int Zeilennummer = -1;
+  QString Ganze_Tabelle;  ///< the table's name when the statement is a plain SELECT * FROM of it
+
+  std::size_t Zellen() const { return Felder.size() + (Zeilennummer >= 0 ? 1 : 0); }
+  /// -1 when there is none. Without regard to case; the first of several.
+  int finden(QStringView Name) const;
+  void Namen_ordnen();  ///< to be called once when `Felder` is complete
+
+ private:
+  std::vector<int> Tafel_;
+};
+
+struct Ergebnis {
+  std::shared_ptr<const Spaltensatz> Spalten;
+  std::vector<const Zelle *> Zeilen;  ///< each Spalten->Zellen() cells in `Lager`
+  Speicher Lager;
+};
+
+/// What a declared column type ("VARCHAR(50)", "DATETIME", ...) holds.
+Feldart Feldart_aus_Deklaration(const QString &Deklaration, int &Bits);
+
+}  // namespace marklink::db

@@ -1,0 +1,349 @@
+// The record set: opening, reading late, filters and the rows under them.
+#include <algorithm>
+#include <limits>
+#include <unordered_set>
+
+#include "Ablaufverfolgung.h"
+#include "Recordset_Daten.h"
+
+namespace marklink::db {
+
+namespace {
+
+constexpr std::size_t Wenige = 32;  ///< pending rows that are looked through one by one
+
+void Indizes_auffrischen(Feldindex &Index, const std::vector<Zeile> &Zeilen, const Spaltensatz &Spalten) {
+  for (int i = Index.Zeilen(); i < static_cast<int>(Zeilen.size()); ++i) {
+    Index.eintragen(i, Zeilen[static_cast<std::size_t>(i)].Zellen(), Spalten);
+  }
+}
+
+}  // namespace
+
+bool ganze_Tabelle_moeglich(const Anweisung &Sql) {
+  if (Sql.Stuecke().size() != 1) return false;
+  const QStringList worte = Sql.Stuecke()[0].Text.simplified().split(u' ');
+  return worte.size() == 4 && worte[0].compare(u"SELECT", Qt::CaseInsensitive) == 0 && worte[1] == u"*";
+}
+
+void Recordset::Daten::leeren() {
+  Zeilen.clear();
+  Offene.clear();
+  Indizes.clear();
+  Lager.clear();
+  Aenderungen.leeren();
+  Sicht.clear();
+  Texte = {};
+  In_Arbeit = false;
+  Stelle = 0;
+  Aktuell = -1;
+  Vorher_Aktuell = -1;
+}
+
+/// After a late read that failed. An empty set would take every row of the table for a new one.
+void Recordset::Daten::schliessen() {
+  const bool angefangen = In_Arbeit && Aktuell >= 0 && !Zeilen[static_cast<std::size_t>(Aktuell)].Offen;
+  const std::size_t verloren = Offene.size() + (angefangen ? 1 : 0);
+  if (Ablaufverfolgung_an()) {
+    Ablauf_melden(QStringLiteral("late read"),
+                  QStringLiteral("the set on %1 is closed, pending rows lost: %2")
+                      .arg(Spalten->Ganze_Tabelle)
+                      .arg(verloren));
+  }
+  leeren();
+  Filter.reset();
+  Spalten = std::make_shared<Spaltensatz>();
+  Gelesen = true;
+  Sicht_gilt = true;
+  Geoeffnet = false;
+}
+
+bool Recordset::Daten::oeffnen() {
+  leeren();
+  Gelesen = true;
+  Sicht_gilt = true;
+  Leihe leihe(Verbindung);
+  Mundart = leihe.Mundart();
+  if (!leihe) return false;
+  if (ganze_Tabelle_moeglich(Sql)) {
+    const auto spalten = leihe.Beschreiben(Sql);
+    if (!spalten) return false;
+    // Rows known here are laid over those of the table by their numbers.
+    Gelesen = spalten->Ganze_Tabelle.isEmpty() || spalten->Zeilennummer < 0;
+    Sicht_gilt = Gelesen;
+    Spalten = spalten;
+    if (!Gelesen) return true;
+  }
+  Ergebnis ergebnis;
+  const bool gelesen = leihe.Lesen(Sql, ergebnis);
+  if (!gelesen) {
+    Spalten = std::make_shared<Spaltensatz>();
+    return false;
+  }
+  Spalten = ergebnis.Spalten ? ergebnis.Spalten : std::make_shared<Spaltensatz>();
+  Zeilen_uebernehmen(ergebnis);
+  Lager.push_back(std::move(ergebnis.Lager));
+  Sicht_bauen();
+  Stellen(0);
+  return true;
+}
+
+void Recordset::Daten::Zeilen_uebernehmen(const Ergebnis &E) {
+  Zeilen.reserve(Zeilen.size() + E.Zeilen.size());
+  for (const Zelle *zellen : E.Zeilen) {
+    Zeile z;
+    z.Basis = zellen;
+    Zeilen.push_back(z);
+  }
+}
+
+/// Sets the place under the filter and the current row with it.
+void Recordset::Daten::Stellen(int Neue_Stelle) {
+  const int anzahl = static_cast<int>(Sicht.size());
+  Stelle = std::clamp(Neue_Stelle, -1, anzahl);
+  Aktuell = Stelle >= 0 && Stelle < anzahl ? Sicht[static_cast<std::size_t>(Stelle)] : -1;
+}
+
+/// To be called before anything that depends on which rows there are.
+void Recordset::Daten::Sicht_fordern() {
+  if (!Sicht_gilt) Alles_lesen();
+}
+
+/// Reads the table and lays over it what is known here: changed, deleted and new rows, and the current one.
+/// Closes the set when the table cannot be read.
+void Recordset::Daten::Alles_lesen() {
+  Ergebnis ergebnis;
+  bool gleich = false;
+  {
+    Leihe leihe(Verbindung);
+    gleich = leihe.Lesen(Sql, ergebnis) && ergebnis.Spalten &&
+             ergebnis.Spalten->Zellen() == Spalten->Zellen() &&
+             ergebnis.Spalten->Zeilennummer == Spalten->Zeilennummer;
+  }
+  if (!gleich) {
+    schliessen();
+    return;
+  }
+  const int vorher = Aktuell;
+  Gelesen = true;
+  Sicht_gilt = true;
+  Indizes.clear();
+  const std::vector<Zeile> bekannte = std::move(Zeilen);
+  Zeilen.clear();
+  Zeilen_uebernehmen(ergebnis);
+  Lager.push_back(std::move(ergebnis.Lager));
+
+  const std::vector<int> neue_Nummer = Bekanntes_auflegen(bekannte);
+  for (int &offen : Offene) offen = neue_Nummer[static_cast<std::size_t>(offen)];
+  if (Vorher_Aktuell >= 0) Vorher_Aktuell = neue_Nummer[static_cast<std::size_t>(Vorher_Aktuell)];
+
+  Sicht_bauen();
+  const int aktuell = vorher >= 0 ? neue_Nummer[static_cast<std::size_t>(vorher)] : -1;
+  const auto platz = std::find(Sicht.begin(), Sicht.end(), aktuell);
+  Stellen(aktuell >= 0 && platz != Sicht.end() ? static_cast<int>(platz - Sicht.begin()) : 0);
+}
+
+/// Puts the rows in use in the place of the table's; gives the new index of each known row, -1 for none.
+std::vector<int> Recordset::Daten::Bekanntes_auflegen(const std::vector<Zeile> &Bekannte) {
+  std::vector<int> neue_Nummer(Bekannte.size(), -1);
+  const int nummer = Spalten->Zeilennummer;
+  std::unordered_map<qint64, int> nach_Nummer;
+  for (const Zeile &z : Bekannte) {
+    if (nummer >= 0 && z.Basis) nach_Nummer.emplace(z.Basis[nummer].Ganz, -1);
+  }
+  for (std::size_t i = 0; !nach_Nummer.empty() && i < Zeilen.size(); ++i) {
+    const auto da = nach_Nummer.find(Zeilen[i].Basis[nummer].Ganz);
+    if (da != nach_Nummer.end()) da->second = static_cast<int>(i);
+  }
+  for (std::size_t i = 0; i < Bekannte.size(); ++i) {
+    const Zeile &z = Bekannte[i];
+    const bool in_Gebrauch = z.Offen || static_cast<int>(i) == Aktuell;
+    if (z.Basis && nummer >= 0) neue_Nummer[i] = nach_Nummer[z.Basis[nummer].Ganz];
+    if (neue_Nummer[i] < 0 && (in_Gebrauch || z.S == Zeile::Stand::Neu)) {
+      neue_Nummer[i] = static_cast<int>(Zeilen.size());
+      Zeilen.push_back(z);
+    } else if (neue_Nummer[i] >= 0 && in_Gebrauch) {
+      // Of several copies of one row the changed one counts; one that nobody uses may be out of date.
+      Zeile &platz = Zeilen[static_cast<std::size_t>(neue_Nummer[i])];
+      if (!platz.Offen) platz = z;
+    }
+  }
+  return neue_Nummer;
+}
+
+/// Lists the rows of a read-out set under the filter.
+void Recordset::Daten::Sicht_bauen() {
+  Sicht.clear();
+  const auto pruefen = [this](int i) {
+    const Zeile &z = Zeilen[static_cast<std::size_t>(i)];
+    if (z.sichtbar() && (!Filter || Filter->passt(z.Zellen()))) Sicht.push_back(i);
+  };
+  if (Filter && !Filter->Gleichungen().empty()) {
+    for (const int i : Kandidaten(Filter->Gleichungen())) pruefen(i);
+    return;
+  }
+  if (!Filter) Sicht.reserve(Zeilen.size());
+  for (int i = 0; i < static_cast<int>(Zeilen.size()); ++i) pruefen(i);
+}
+
+/// Rows known here that may satisfy all these equations, by an index that is made once and then kept.
+std::vector<int> Recordset::Daten::Kandidaten(const std::vector<const Filterausdruck::Knoten *> &Werte) {
+  std::vector<int> felder;
+  std::vector<const Filterausdruck::Knoten *> brauchbare;
+  for (const auto *k : Werte) {
+    if (k->Wert.unvereinbar) return {};
+    // The cells of a computed column may be of any kind.
+    if (Spalten->Felder[static_cast<std::size_t>(k->Feld)].Art == Feldart::Offen) continue;
+    felder.push_back(k->Feld);
+    brauchbare.push_back(k);
+  }
+  auto index =
+      std::find_if(Indizes.begin(), Indizes.end(), [&](const Feldindex &i) { return i.Felder() == felder; });
+  if (index == Indizes.end()) index = Indizes.emplace(Indizes.end(), felder);
+  Indizes_auffrischen(*index, Zeilen, *Spalten);
+  return index->Kandidaten(brauchbare);
+}
+
+bool Recordset::Daten::Nachschlagbar(const Filterausdruck &Suche) const {
+  if (Gelesen || Spalten->Zeilennummer < 0 || Spalten->Tabellen.size() != 1) return false;
+  const auto &gleichungen = Suche.Gleichungen();
+  return std::any_of(gleichungen.begin(), gleichungen.end(), [this](const Filterausdruck::Knoten *k) {
+    const auto feld = static_cast<std::size_t>(k->Feld);
+    const Feldart art = Spalten->Felder[feld].Art;
+    return Spalten->Tabellen[0].Nachschlagbar[feld] && (art == Feldart::Text || art == Feldart::Ganzzahl);
+  });
+}
+
+/// Drops the rows that carry no changes from an unread set.
+void Recordset::Daten::Unbenutztes_vergessen() {
+  if (Gelesen || !Offene.empty()) return;
+  Zeilen.clear();
+  Sicht.clear();
+  Indizes.clear();
+  if (Lager.size() > 1) Lager.erase(Lager.begin(), std::prev(Lager.end()));
+  if (!Lager.empty()) Lager.back().leeren();
+  Aenderungen.leeren();
+  Aktuell = -1;
+  Vorher_Aktuell = -1;
+}
+
+/// The rows that the engine's index finds for the equations, in `Ziel`. False when the engine failed.
+bool Recordset::Daten::Engine_fragen(const Filterausdruck &Suche, Ergebnis &Ziel) {
+  Anweisung sql("SELECT * FROM ", Teiltext{Spalten->Ganze_Tabelle});
+  const char *davor = " WHERE ";
+  for (const auto *k : Suche.Gleichungen()) {
+    const Feld &feld = Spalten->Felder[static_cast<std::size_t>(k->Feld)];
+    if (feld.Art != Feldart::Text && feld.Art != Feldart::Ganzzahl) continue;
+    sql += Anweisung(Teiltext{QLatin1String(davor) + u'[' + feld.Name + u']'}, " = ");
+    const bool zahl = k->Wert.Roh_Zahl && feld.Art == Feldart::Ganzzahl;
+    sql += zahl ? Anweisung(Zahl(k->Wert.Zahl), "") : Anweisung(Wert{k->Wert.Roh}, "");
+    davor = " AND ";
+  }
+  if (Lager.empty()) Lager.emplace_back();
+  std::swap(Ziel.Lager, Lager.back());
+  bool gut = false;
+  {
+    Leihe leihe(Verbindung);
+    gut = leihe.Lesen(sql, Ziel) && Ziel.Spalten && Ziel.Spalten->Zellen() == Spalten->Zellen();
+  }
+  std::swap(Ziel.Lager, Lager.back());
+  return gut;
+}
+
+/// Where a row stands in the table's order; new rows come last.
+qint64 Recordset::Daten::Ort(int Nummer) const {
+  const Zelle *basis = Zeilen[static_cast<std::size_t>(Nummer)].Basis;
+  return basis ? basis[Spalten->Zeilennummer].Ganz : std::numeric_limits<qint64>::max();
+}
+
+/// Pending rows that may satisfy the equations.
+std::vector<int> Recordset::Daten::Offene_Kandidaten(const Filterausdruck &Suche) {
+  if (Offene.size() <= Wenige) return Offene;
+  std::vector<int> zeilen = Kandidaten(Suche.Gleichungen());
+  std::erase_if(zeilen, [this](int i) { return !Zeilen[static_cast<std::size_t>(i)].Offen; });
+  return zeilen;
+}
+
+/// The rows of an unread set that satisfy `Suche`, in the table's order: those of the table, with the rows
+/// changed here in their place. False when the engine failed.
+bool Recordset::Daten::Nachschlagen(const Filterausdruck &Suche, std::vector<int> &Treffer) {
+  Treffer.clear();
+  const auto &gleichungen = Suche.Gleichungen();
+  if (std::any_of(gleichungen.begin(), gleichungen.end(), [](const auto *k) { return k->Wert.unvereinbar; }))
+    return true;
+  Ergebnis ergebnis;
+  if (!Engine_fragen(Suche, ergebnis)) return false;
+  for (const int i : Offene_Kandidaten(Suche)) {
+    const Zeile &z = Zeilen[static_cast<std::size_t>(i)];
+    if (z.sichtbar() && Suche.passt(z.Zellen())) Treffer.push_back(i);
+  }
+  std::unordered_set<qint64> geaenderte;
+  if (!ergebnis.Zeilen.empty()) {
+    for (const int i : Offene) geaenderte.insert(Ort(i));
+  }
+  for (const Zelle *zellen : ergebnis.Zeilen) {
+    if (geaenderte.contains(zellen[Spalten->Zeilennummer].Ganz) || !Suche.passt(zellen)) continue;
+    Zeile z;
+    z.Basis = zellen;
+    Treffer.push_back(static_cast<int>(Zeilen.size()));
+    Zeilen.push_back(z);
+  }
+  std::stable_sort(Treffer.begin(), Treffer.end(), [this](int a, int b) { return Ort(a) < Ort(b); });
+  return true;
+}
+
+/// Find() in an unread set. False when it cannot be answered without reading the table.
+bool Recordset::Daten::Vorwaerts_nachschlagen(const Filterausdruck &Suche) {
+  std::vector<int> treffer;
+  if (Sicht_gilt || !Nachschlagbar(Suche) || !Nachschlagen(Suche, treffer)) return false;
+  const int von = Aktuell;
+  const auto da = std::find_if(treffer.begin(), treffer.end(), [&](int i) {
+    if (von < 0) return true;
+    return Ort(i) != Ort(von) ? Ort(i) > Ort(von) : Zeilen[static_cast<std::size_t>(von)].Basis || i >= von;
+  });
+  if (da == treffer.end()) return false;
+  Aktuell = *da;
+  return true;
+}
+
+/// Makes the rows under the (new) filter the visible ones and stands on the first.
+void Recordset::Daten::Filter_anwenden() {
+  Unbenutztes_vergessen();
+  if (!Gelesen && !Filter) {
+    Sicht_gilt = false;
+    Sicht.clear();
+    Stelle = 0;
+    Aktuell = -1;
+    return;
+  }
+  if (Gelesen) {
+    Sicht_bauen();
+  } else if (Nachschlagbar(*Filter) && Nachschlagen(*Filter, Sicht)) {
+    Sicht_gilt = true;
+  } else {
+    Alles_lesen();
+  }
+  Stellen(0);
+}
+
+/// The place of the first match from the current row on, or the end.
+int Recordset::Daten::Suchen(const Filterausdruck &Suche) {
+  const int ende = static_cast<int>(Sicht.size());
+  const int anfang = std::max(Stelle, 0);
+  const bool geordnet = Gelesen;  // rows of a read-out set stand in `Sicht` in ascending order
+  if (geordnet && !Suche.Gleichungen().empty()) {
+    for (const int i : Kandidaten(Suche.Gleichungen())) {
+      const auto platz = std::lower_bound(Sicht.begin() + anfang, Sicht.end(), i);
+      const bool da = platz != Sicht.end() && *platz == i;
+      if (da && Suche.passt(Zeilen[static_cast<std::size_t>(i)].Zellen()))
+        return static_cast<int>(platz - Sicht.begin());
+    }
+    return ende;
+  }
+  for (int s = anfang; s < ende; ++s) {
+    if (Suche.passt(Zeilen[static_cast<std::size_t>(Sicht[static_cast<std::size_t>(s)])].Zellen())) return s;
+  }
+  return ende;
+}
+
+}  // namespace marklink::db

@@ -1,0 +1,266 @@
+// The record set: sending all pending rows in one transaction.
+#include <algorithm>
+
+#include "Ablaufverfolgung.h"
+#include "Recordset_Daten.h"
+
+namespace marklink::db {
+
+namespace {
+
+QByteArray geklammert(const QString &Name) { return '[' + Name.toUtf8() + ']'; }
+
+/// Makes and sends the statements of one batch.
+class Stapel {
+ public:
+  Stapel(Leihe &L, const Spaltensatz &S, Stapeltexte &T) : L_(L), S_(S), Texte_(T) {}
+
+  Schreibstand senden(const Zeile &Z) {
+    Tabellen_geschrieben_ = 0;
+    switch (Z.S) {
+      case Zeile::Stand::Neu:
+        return einfuegen(Z);
+      case Zeile::Stand::Geaendert:
+        return aendern(Z);
+      case Zeile::Stand::Geloescht:
+        return loeschen(Z);
+      default:
+        return Schreibstand::Geschrieben;
+    }
+  }
+  /// What the engine numbered: a cell and its value, to be set when the batch is through.
+  struct Nummer {
+    Zelle *Ziel;
+    qint64 Wert;
+  };
+  const std::vector<Nummer> &Nummern() const { return Nummern_; }
+  /// How many tables of a joined set took the last changed row before one did not.
+  int Tabellen_geschrieben() const { return Tabellen_geschrieben_; }
+
+ private:
+  Schreibstand einfuegen(const Zeile &Z);
+  Schreibstand aendern(const Zeile &Z);
+  Schreibstand Tabelle_aendern(const Zeile &Z, int Tabelle);
+  Schreibstand loeschen(const Zeile &Z);
+  QByteArray Einfuegetext(int Tabelle) const;
+  QByteArray Aenderungstext(int Tabelle) const;
+  bool Bedingung(int Tabelle, QByteArray &Sql) const;
+  void Bedingung_Werte(const Zeile &Z, int Tabelle);
+  const Feld &Feld_von(int i) const { return S_.Felder[static_cast<std::size_t>(i)]; }
+  const Basistabelle &Tabelle_von(int i) const { return S_.Tabellen[static_cast<std::size_t>(i)]; }
+
+  Leihe &L_;
+  const Spaltensatz &S_;
+  Stapeltexte &Texte_;
+  std::vector<Zelle> Werte_;
+  std::vector<int> Felder_;    ///< written by the statement
+  std::vector<int> Geprueft_;  ///< whose former values it asks for
+  std::vector<Nummer> Nummern_;
+  int Tabellen_geschrieben_ = 0;
+};
+
+QByteArray Stapel::Einfuegetext(int Tabelle) const {
+  QByteArray spalten, marken;
+  for (const int i : Felder_) {
+    spalten += (spalten.isEmpty() ? "" : ",") + Feld_von(i).Geklammert;
+    marken += marken.isEmpty() ? "?" : ",?";
+  }
+  const QByteArray anfang = "INSERT INTO " + geklammert(Tabelle_von(Tabelle).Name);
+  return Felder_.empty() ? anfang + " DEFAULT VALUES" : anfang + " (" + spalten + ") VALUES (" + marken + ")";
+}
+
+Schreibstand Stapel::einfuegen(const Zeile &Z) {
+  Felder_.clear();
+  Werte_.clear();
+  int tabelle = S_.Tabellen.size() == 1 ? 0 : -1;
+  for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
+    const Feld &feld = S_.Felder[i];
+    if (!Z.Neu[i].Gesetzt || feld.Tabelle < 0) continue;
+    if (tabelle >= 0 && feld.Tabelle != tabelle)
+      return Schreibstand::Abgelehnt;  // no row of two tables at once
+    tabelle = feld.Tabelle;
+    Felder_.push_back(static_cast<int>(i));
+    Werte_.push_back(Z.Neu[i]);
+  }
+  if (tabelle < 0) return Schreibstand::Abgelehnt;
+  const QByteArray &sql = Texte_.Text('I', tabelle, Felder_, {}, [&] { return Einfuegetext(tabelle); });
+  const Schreibstand stand = L_.Schreiben(sql, Werte_, "INSERT INTO ", Tabelle_von(tabelle).Name);
+  if (stand != Schreibstand::Geschrieben) return stand;
+  const qint64 nummer = L_.Letzte_Nummer();
+  for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
+    if (S_.Felder[i].Autowert && S_.Felder[i].Tabelle == tabelle) Nummern_.push_back({&Z.Neu[i], nummer});
+  }
+  if (S_.Zeilennummer >= 0) Nummern_.push_back({&Z.Neu[S_.Zeilennummer], nummer});
+  return stand;
+}
+
+/// WHERE for the row as it was read.
+bool Stapel::Bedingung(int Tabelle, QByteArray &Sql) const {
+  Sql += " WHERE ";
+  const auto &schluessel = Tabelle_von(Tabelle).Schluessel;
+  for (std::size_t k = 0; k < schluessel.size(); ++k) {
+    Sql += (k > 0 ? " AND " : "") + Feld_von(schluessel[k]).Geklammert + " = ?";
+  }
+  if (!schluessel.empty()) return true;
+  if (S_.Zeilennummer < 0) return false;
+  Sql += L_.Zeilennummer_Spalte() + " = ?";
+  return true;
+}
+
+void Stapel::Bedingung_Werte(const Zeile &Z, int Tabelle) {
+  const auto &schluessel = Tabelle_von(Tabelle).Schluessel;
+  for (const int feld : schluessel) Werte_.push_back(Z.Basis[feld]);
+  if (schluessel.empty()) Werte_.push_back(Z.Basis[S_.Zeilennummer]);
+}
+
+/// What somebody changed since it was read is not overwritten: the changed columns must hold what they held.
+/// Empty when nothing in the set identifies a row of the table.
+QByteArray Stapel::Aenderungstext(int Tabelle) const {
+  QByteArray sql = "UPDATE " + geklammert(Tabelle_von(Tabelle).Name) + " SET ";
+  for (std::size_t i = 0; i < Felder_.size(); ++i) {
+    sql += (i > 0 ? "," : "") + Feld_von(Felder_[i]).Geklammert + "=?";
+  }
+  if (!Bedingung(Tabelle, sql)) return {};
+  for (const int i : Geprueft_) sql += " AND " + L_.Unveraendert(Feld_von(i).Geklammert);
+  return sql;
+}
+
+Schreibstand Stapel::Tabelle_aendern(const Zeile &Z, int Tabelle) {
+  Felder_.clear();
+  Geprueft_.clear();
+  Werte_.clear();
+  for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
+    if (S_.Felder[i].Tabelle != Tabelle || !Z.Neu[i].Gesetzt) continue;
+    if (!Z.Basis[i].Ungewiss && Z.Neu[i].gleich(Z.Basis[i])) continue;
+    Felder_.push_back(static_cast<int>(i));
+    if (!Z.Basis[i].Ungewiss) Geprueft_.push_back(static_cast<int>(i));
+    Werte_.push_back(Z.Neu[i]);
+  }
+  if (Felder_.empty()) return Schreibstand::Geschrieben;
+  const QByteArray &sql =
+      Texte_.Text('U', Tabelle, Felder_, Geprueft_, [&] { return Aenderungstext(Tabelle); });
+  if (sql.isEmpty()) {
+    Ablauf_melden(QStringLiteral("batch"), QStringLiteral("the set does not hold the row's key"));
+    return Schreibstand::Abgelehnt;
+  }
+  Bedingung_Werte(Z, Tabelle);
+  for (const int i : Geprueft_) Werte_.push_back(Z.Basis[i]);
+  return L_.Schreiben(sql, Werte_, "UPDATE ", Tabelle_von(Tabelle).Name);
+}
+
+Schreibstand Stapel::aendern(const Zeile &Z) {
+  for (std::size_t t = 0; t < S_.Tabellen.size(); ++t) {
+    const Schreibstand stand = Tabelle_aendern(Z, static_cast<int>(t));
+    if (stand != Schreibstand::Geschrieben) return stand;
+    ++Tabellen_geschrieben_;
+  }
+  return Schreibstand::Geschrieben;
+}
+
+Schreibstand Stapel::loeschen(const Zeile &Z) {
+  // Of a joined set: from the first table.
+  if (S_.Tabellen.empty()) return Schreibstand::Abgelehnt;
+  QByteArray sql = "DELETE FROM " + geklammert(Tabelle_von(0).Name);
+  if (!Bedingung(0, sql)) return Schreibstand::Abgelehnt;
+  Werte_.clear();
+  Bedingung_Werte(Z, 0);
+  return L_.Schreiben(sql, Werte_, "DELETE FROM ", Tabelle_von(0).Name);
+}
+
+}  // namespace
+
+bool Recordset::Daten::Stapel_senden() {
+  if (!Geoeffnet) return false;
+  Arbeit_uebernehmen();
+  if (Offene.empty()) return true;
+  std::vector<int> geschrieben, bleiben;
+  std::vector<std::pair<int, int>> halbe;  // rows of a joined set that only some tables took
+  {
+    Leihe leihe(Verbindung);
+    if (!leihe.Beginnen()) return false;
+    Stapel stapel(leihe, *Spalten, Texte);
+    for (const int i : Offene) {
+      const Schreibstand stand = stapel.senden(Zeilen[static_cast<std::size_t>(i)]);
+      if (stand == Schreibstand::Abgebrochen) {
+        leihe.Verwerfen();
+        return false;
+      }
+      (stand == Schreibstand::Geschrieben ? geschrieben : bleiben).push_back(i);
+      const int tabellen = stapel.Tabellen_geschrieben();
+      if (stand != Schreibstand::Geschrieben && tabellen > 0) halbe.emplace_back(i, tabellen);
+    }
+    if (!leihe.Abschliessen()) {
+      leihe.Verwerfen();
+      return false;
+    }
+    for (const auto &nummer : stapel.Nummern()) *nummer.Ziel = Zelle::aus_Ganz(nummer.Wert);
+  }
+  for (const int i : geschrieben) Geschriebenes_uebernehmen(Zeilen[static_cast<std::size_t>(i)]);
+  for (const auto &[i, tabellen] : halbe) Teil_uebernehmen(Zeilen[static_cast<std::size_t>(i)], tabellen);
+  Offene = std::move(bleiben);
+  const bool alles = Offene.empty();
+  if (alles && !Gelesen) Nur_aktuelle_behalten();
+  return alles;
+}
+
+/// The row as sent is now the row as in the table.
+void Recordset::Daten::Geschriebenes_uebernehmen(Zeile &Z) {
+  Z.Offen = false;
+  if (Z.S == Zeile::Stand::Geloescht) {
+    Z.S = Zeile::Stand::Weg;
+    return;
+  }
+  for (std::size_t k = 0; k < Spalten->Felder.size(); ++k) {
+    const bool bekannt = Z.Neu[k].Gesetzt || Spalten->Felder[k].Autowert;
+    if (Z.S == Zeile::Stand::Neu) Z.Neu[k].Ungewiss = !bekannt;
+    if (bekannt) Z.Neu[k].Ungewiss = false;
+    Z.Neu[k].Gesetzt = false;
+  }
+  Z.Basis = Z.Neu;
+  Z.Neu = nullptr;
+  Z.S = Zeile::Stand::Sauber;
+}
+
+/// The same for the first `Tabellen` tables of a row that stays pending.
+void Recordset::Daten::Teil_uebernehmen(Zeile &Z, int Tabellen) {
+  Zelle *basis = Aenderungen.Zellen(Spalten->Zellen());
+  std::copy_n(Z.Basis, Spalten->Zellen(), basis);
+  for (std::size_t k = 0; k < Spalten->Felder.size(); ++k) {
+    const int tabelle = Spalten->Felder[k].Tabelle;
+    if (tabelle < 0 || tabelle >= Tabellen) continue;
+    Z.Neu[k].Gesetzt = false;
+    basis[k] = Z.Neu[k];
+  }
+  Z.Basis = basis;
+}
+
+/// After a batch an unread set needs no row but the current one.
+void Recordset::Daten::Nur_aktuelle_behalten() {
+  if (Sicht_gilt && (Sicht.size() > 1 || (Aktuell < 0 && !Sicht.empty()))) return;
+  Vorher_Aktuell = -1;
+  Indizes.clear();
+  if (Aktuell < 0) {
+    Unbenutztes_vergessen();
+    return;
+  }
+  const Zelle *bisher = Zeilen[static_cast<std::size_t>(Aktuell)].Basis;
+  Speicher frisch;
+  std::swap(frisch, Zweitlager);
+  frisch.leeren();
+  Zelle *kopie = frisch.Zellen(Spalten->Zellen());
+  for (std::size_t k = 0; k < Spalten->Zellen(); ++k) kopie[k] = frisch.Kopie(bisher[k]);
+  std::swap(Zweitlager, Aenderungen);
+  std::swap(Aenderungen, frisch);
+  if (Lager.size() > 1) Lager.erase(Lager.begin(), std::prev(Lager.end()));
+  if (!Lager.empty()) Lager.back().leeren();
+  Zeile z;
+  z.Basis = kopie;
+  Zeilen.assign(1, z);
+  Aktuell = 0;
+  if (Sicht_gilt) {
+    Sicht.assign(1, 0);
+    Stelle = 0;
+  }
+}
+
+}  // namespace marklink::db
