@@ -1,0 +1,44 @@
+// Countries of the books.
+#include "Laender.h"
+
+#include "Datenbank.h"
+#include "Kontext.h"
+#include "Texte.h"
+#include "Zahlen.h"
+
+namespace marklink {
+namespace {
+
+db::Recordset Land_lesen(const QString &Land, const char *Feld) {
+  return Abfragen(db::Anweisung("SELECT ", db::Name{QLatin1String(Feld)},
+                                " FROM Countries WHERE Description = ", db::Wert{Land}));
+}
+
+}  // namespace
+
+QString Adressformat_ermitteln(const QString &Wert, const QString &Spalte) {
+  const db::Recordset rs = Abfragen(
+      db::Anweisung("SELECT AddressFormat FROM Countries WHERE ", db::Name{Spalte}, " = ", db::Wert{Wert}));
+  const QString vorlage = rs.Text(QStringLiteral("AddressFormat"));
+  return vorlage.isEmpty() ? Kontext.gAdressformat : vorlage;
+}
+
+QString Land_aus_Token(const QString &Token) {
+  return Abfragen(db::Anweisung("SELECT Description FROM Countries WHERE Token = ", db::Wert{Token}))
+      .Text(QStringLiteral("Description"));
+}
+
+bool Land_ist_EU(const QString &Land) { return Land_lesen(Land, "EU").Flag(QStringLiteral("EU")); }
+
+double Land_Versandfreigrenze(const QString &Land) {
+  const db::Recordset rs = Land_lesen(Land, "FreeShippingAmount");
+  if (rs.RecordCount() > 0) return rs.Number(QStringLiteral("FreeShippingAmount"));
+  const QString einstellung = Option_lesen(QStringLiteral("Program"), QStringLiteral("FreeShippingAmount"));
+  return Zahl_deutsch(einstellung).value_or(0.0);
+}
+
+QString Land_Waehrung(const QString &Land) {
+  return Land_lesen(Land, "Currency").Text(QStringLiteral("Currency"));
+}
+
+}  // namespace marklink

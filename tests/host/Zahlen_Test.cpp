@@ -1,0 +1,141 @@
+// Numbers, dates and texts in the system's form.
+#include "host/Zahlen.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "host/Datumsbilder.h"
+#include "host/Texte.h"
+#include "host/Zeichensatz.h"
+
+namespace marklink {
+namespace {
+
+TEST(Zahlen_Test, mit_Punkt) {
+  const struct {
+    const char16_t *Text;
+    double Erwartet;
+  } faelle[] = {{u"12.50", 12.5}, {u"+5.00", 5}, {u"-2.5", -2.5}, {u" 3 ", 3},    {u"1,5", 1},
+                {u"1.2.3", 1.2},  {u"", 0},      {u"abc", 0},     {u"7abc", 7},   {u"1e5", 1},
+                {u".5", 0.5},     {u"-", 0},     {u"5.", 5},      {u"0.0000", 0}, {u"--3", 0},
+                {u"nan", 0},      {u"1 000", 1}, {u"٣", 0}};
+  for (const auto &f : faelle)
+    EXPECT_DOUBLE_EQ(Zahl_mit_Punkt(QStringView(f.Text)), f.Erwartet)
+        << QString::fromUtf16(f.Text).toStdString();
+  EXPECT_TRUE(std::isfinite(Zahl_mit_Punkt(QString(1000, u'9'))));
+}
+
+TEST(Zahlen_Test, deutsch) {
+  const struct {
+    const char16_t *Text;
+    double Erwartet;
+  } gut[] = {{u"1.234,56", 1234.56},  {u"-3", -3}, {u"2,5", 2.5}, {u",5", 0.5}, {u" 7 ", 7},
+             {u"1.234.567", 1234567}, {u"5,", 5}};
+  for (const auto &f : gut) {
+    const auto zahl = Zahl_deutsch(QStringView(f.Text));
+    ASSERT_TRUE(zahl) << QString::fromUtf16(f.Text).toStdString();
+    EXPECT_DOUBLE_EQ(*zahl, f.Erwartet);
+  }
+  for (const char16_t *text :
+       {u"", u"abc", u"1.5", u"12.34,5", u"1,2,3", u"1e5", u".123", u"-", u"1234.567", u"1..234"})
+    EXPECT_FALSE(Zahl_deutsch(QStringView(text))) << QString::fromUtf16(text).toStdString();
+}
+
+TEST(Zahlen_Test, als_Text) {
+  const struct {
+    double Zahl;
+    const char16_t *Erwartet;
+  } faelle[] = {{7.5, u"7,5"},
+                {0, u"0"},
+                {-0.0, u"0"},
+                {1234567.891, u"1234567,891"},
+                {0.1 + 0.2, u"0,3"},
+                {1e-7, u"0,0000001"},
+                {100, u"100"},
+                {-2.675, u"-2,675"},
+                {1e17, u"100000000000000000"},
+                {std::nan(""), u"0"}};
+  for (const auto &f : faelle) EXPECT_EQ(Zahl_als_Text(f.Zahl), QString::fromUtf16(f.Erwartet));
+}
+
+TEST(Zahlen_Test, nach_Bild) {
+  const struct {
+    double Zahl;
+    const char16_t *Bild, *Erwartet;
+  } faelle[] = {{1234567.891, u"standard", u"1.234.567,89"},
+                {2.675, u"#,##0.00", u"2,68"},  // the decimal value decides, not the binary one
+                {-2.675, u"#,##0.00", u"-2,68"},
+                {-0.001, u"0.00", u"0,00"},
+                {0.5, u"#,##0.##", u"0,5"},
+                {3, u"#,##0.##", u"3"},
+                {7, u"0000", u"0007"},
+                {12345, u"0000", u"12345"},
+                {1.5, u"##,#####0.000", u"1,500"},
+                {1234.5, u"##,#####0.000", u"1.234,500"},
+                {0.25, u"#.00", u",25"},
+                {999.995, u"#,##0.00", u"1.000,00"},
+                {5, u"0.00 €", u"5,00 €"},
+                {7.5, u"", u"7,5"}};
+  for (const auto &f : faelle)
+    EXPECT_EQ(Zahl_formatieren(f.Zahl, QString::fromUtf16(f.Bild)), QString::fromUtf16(f.Erwartet))
+        << QString::fromUtf16(f.Bild).toStdString();
+}
+
+TEST(Zahlen_Test, Einstellungen_als_ganze_Zahl) {
+  EXPECT_EQ(Als_Kurzzahl(QStringLiteral("17")), 17);
+  EXPECT_EQ(Als_Kurzzahl(QStringLiteral("40000")), 0);
+  EXPECT_EQ(Als_Ganzzahl(QStringLiteral("40000")), 40000);
+  EXPECT_EQ(Als_Ganzzahl(QStringLiteral("99999999999")), 0);
+  EXPECT_EQ(Als_Ganzzahl(QStringLiteral("2,5")), 2);
+  EXPECT_EQ(Als_Ganzzahl(QString()), 0);
+}
+
+TEST(Datumsbilder_Test, nach_Bild_und_zurueck) {
+  const QDateTime zeit(QDate(2024, 3, 5), QTime(14, 7, 9));
+  const struct {
+    const char16_t *Bild, *Erwartet;
+  } faelle[] = {{u"yyyymmdd", u"20240305"},
+                {u"dd.mm.yyyy hh:nn:ss", u"05.03.2024 14:07:09"},
+                {u"YYYY-MM-DD hh:mm:ss", u"2024-03-05 14:07:09"},
+                {u"\\#m\\/d\\/yyyy\\ hh:mm:ss#", u"#3/5/2024 14:07:09#"},
+                {u"Long Date", u"Dienstag, 5. März 2024"},
+                {u"dddd", u"Dienstag"},
+                {u"short date", u"05.03.2024"},
+                {u"yy", u"24"}};
+  for (const auto &f : faelle)
+    EXPECT_EQ(Datum_formatieren(zeit, QString::fromUtf16(f.Bild)), QString::fromUtf16(f.Erwartet));
+  EXPECT_EQ(Datum_formatieren({}, QStringLiteral("dd.mm.yyyy")), QString());
+  EXPECT_EQ(Zeitpunkt_als_Text(zeit), QStringLiteral("05.03.2024 14:07:09"));
+  EXPECT_EQ(Datum_lesen(QStringLiteral("05.03.24")).date(), QDate(2024, 3, 5));
+  EXPECT_EQ(Datum_lesen(QStringLiteral("1.1.1930")).date(), QDate(1930, 1, 1));
+  EXPECT_EQ(Datum_lesen(QStringLiteral("2024-03-05 14:07:09")), zeit);
+  for (const char *text : {"", "31.02.2024", "0000-00-00 00:00:00", "5.3.2024 25:00", "morgen", "05.03.24x"})
+    EXPECT_FALSE(Datum_lesen(QLatin1String(text)).isValid()) << text;
+}
+
+TEST(Texte_Test, kleine_Helfer) {
+  EXPECT_EQ(Letzte_Position(QStringLiteral("#,##0.00"), QStringLiteral(".")), 6);
+  EXPECT_EQ(Letzte_Position(QStringLiteral("a.b.c"), QStringLiteral(".c")),
+            4);  // only the first character counts
+  EXPECT_EQ(Letzte_Position(QStringLiteral("abc"), QStringLiteral("x")), 0);
+  EXPECT_EQ(Null_als_Text(QVariant()), QString());
+  EXPECT_EQ(Null_als_Text(2.5), QStringLiteral("2,5"));
+  // 1 + 255 + 65, then 2 + 255 + 228
+  EXPECT_EQ(Text_Pruefsumme(QStringLiteral("Aä")), QStringLiteral("806"));
+  EXPECT_EQ(Text_verschieben(QStringLiteral("!A")), QStringLiteral("@`"));
+}
+
+TEST(Zeichensatz_Test, hin_und_zurueck) {
+  QByteArray alle;
+  for (int i = 0; i < 256; ++i) alle.append(char(i));
+  bool vollstaendig = false;
+  EXPECT_EQ(Nach_1252(Von_1252(alle), &vollstaendig), alle);
+  EXPECT_TRUE(vollstaendig);
+  EXPECT_EQ(QString::fromUtf8(Utf8_aus_1252(alle)), Von_1252(alle));
+  EXPECT_EQ(Nach_1252(u"a\u0141\U0001F600b", &vollstaendig), "a??b");
+  EXPECT_FALSE(vollstaendig);
+}
+
+}  // namespace
+}  // namespace marklink
