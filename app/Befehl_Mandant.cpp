@@ -1,0 +1,56 @@
+// marklink mandant: new clients.
+#include "Aufrufwerte.h"
+#include "Ausgabe.h"
+#include "Mandant_anlegen.h"
+#include "Mandantenliste.h"
+#include "Sitzung.h"
+#include "demo/Demomandant.h"
+#include "host/Kontext.h"
+#include "host/Uhr.h"
+
+namespace marklink {
+namespace {
+
+constexpr int Demoport = 8080;
+
+int Anlegen(const Mandantenplan &Plan) {
+  if (const QString grund = Mandantenname_pruefen(Plan.Name); !grund.isEmpty()) {
+    Fehler_melden(grund);
+    return Falscher_Aufruf;
+  }
+  if (const QString grund = Mandant_anlegen(Plan); !grund.isEmpty()) {
+    Fehler_melden(QStringLiteral("Der Mandant '%1' wurde nicht angelegt: %2").arg(Plan.Name, grund));
+    return Fehlgeschlagen;
+  }
+  Ausgeben(QStringLiteral("Der Mandant '%1' wurde im Ordner '%2' angelegt.").arg(Plan.Name, Plan.Ordner));
+  return Erledigt;
+}
+
+std::vector<app::Einstellung> Demoshop_Zugang(int Port) {
+  std::vector<app::Einstellung> zugang;
+  for (const demo::Demoeinstellung &e : demo::Demomandant_Einstellungen(Port))
+    zugang.push_back({e.Abschnitt, e.Schluessel, e.Wert});
+  return zugang;
+}
+
+bool Demodaten_schreiben() {
+  return demo::Demomandant_schreiben(Kontext.gConnectionString, uhr().Jetzt().date());
+}
+
+}  // namespace
+
+int Befehl_Mandant_anlegen(const Aufruf &A) {
+  const std::optional<int> typ = Zahl_aus_Option(A, "typ", 0, 0, 1);
+  if (!typ) return Falscher_Aufruf;
+  return Anlegen({A.Argumente[0], *typ, Programmordner_bestimmen(A)});
+}
+
+int Befehl_Mandant_demo(const Aufruf &A) {
+  const std::optional<int> typ = Zahl_aus_Option(A, "typ", 0, 0, 1);
+  const std::optional<int> port = Zahl_aus_Option(A, "port", Demoport, 1, 65535);
+  if (!typ || !port) return Falscher_Aufruf;
+  const QString name = A.Gegeben("mandant") ? A.Wert("mandant") : QStringLiteral("Demo");
+  return Anlegen({name, *typ, Programmordner_bestimmen(A), Demoshop_Zugang(*port), &Demodaten_schreiben});
+}
+
+}  // namespace marklink

@@ -1,0 +1,156 @@
+// The table of commands.
+#include "Befehle.h"
+
+namespace marklink {
+namespace {
+
+const Optionsbeschreibung Typ{QStringLiteral("typ"), QStringLiteral("0|1"),
+                              QStringLiteral("Datenbanktyp des Mandanten (Vorgabe: 0)")};
+const Optionsbeschreibung Stati{QStringLiteral("status"), QStringLiteral("1,3"),
+                                QStringLiteral("nur Bestellungen mit diesen Status-IDs")};
+const Optionsbeschreibung Json{QStringLiteral("json"), {}, QStringLiteral("Ausgabe als JSON")};
+
+std::vector<Befehl> Mandantenbefehle() {
+  const QString gruppe = QStringLiteral("mandant");
+  return {
+      {gruppe,
+       QStringLiteral("anlegen"),
+       {{QStringLiteral("NAME")}},
+       {Typ},
+       QStringLiteral("legt einen neuen Mandanten mit Datenbank, Stammdaten und Einstellungen an"),
+       &Befehl_Mandant_anlegen},
+      {gruppe,
+       QStringLiteral("demo"),
+       {},
+       {Typ,
+        {QStringLiteral("port"), QStringLiteral("N"),
+         QStringLiteral("Port des Demoshops auf diesem Rechner (Vorgabe: 8080)")}},
+       QStringLiteral("legt den Demomandanten mit Artikeln, Beständen und Preisen an"),
+       &Befehl_Mandant_demo},
+  };
+}
+
+std::vector<Befehl> Einstellungsbefehle() {
+  const QString gruppe = QStringLiteral("einstellung");
+  const Argumentbeschreibung abschnitt{QStringLiteral("ABSCHNITT")};
+  const Argumentbeschreibung schluessel{QStringLiteral("SCHLÜSSEL")};
+  return {
+      {gruppe,
+       QStringLiteral("lesen"),
+       {abschnitt, schluessel},
+       {},
+       QStringLiteral("zeigt eine Einstellung des Mandanten; eine leere Zeile, wenn sie fehlt"),
+       &Befehl_Einstellung_lesen},
+      {gruppe,
+       QStringLiteral("schreiben"),
+       {abschnitt, schluessel, {QStringLiteral("WERT")}},
+       {},
+       QStringLiteral("ändert eine Einstellung des Mandanten"),
+       &Befehl_Einstellung_schreiben},
+  };
+}
+
+std::vector<Befehl> Bestellbefehle() {
+  const QString gruppe = QStringLiteral("bestellungen");
+  return {
+      {gruppe,
+       QStringLiteral("abrufen"),
+       {},
+       {Stati},
+       QStringLiteral("ruft die Bestellungen des Shops ab"),
+       &Befehl_Bestellungen_abrufen},
+      {gruppe,
+       QStringLiteral("liste"),
+       {},
+       {Stati,
+        {QStringLiteral("zeitraum"), QStringLiteral("N"),
+         QStringLiteral("Zeitraum 0 bis 40 (Vorgabe: der zuletzt gewählte; 0: alle)")},
+        Json},
+       QStringLiteral("zeigt die abgerufenen Bestellungen"),
+       &Befehl_Bestellungen_liste},
+      {gruppe,
+       QStringLiteral("zeigen"),
+       {{QStringLiteral("NR")}},
+       {Json},
+       QStringLiteral("zeigt eine Bestellung mit Positionen und Anschriften"),
+       &Befehl_Bestellungen_zeigen},
+      {gruppe,
+       QStringLiteral("status"),
+       {{QStringLiteral("NR")}, {QStringLiteral("STATUS")}},
+       {{QStringLiteral("mail"), {}, QStringLiteral("der Shop benachrichtigt den Kunden per E-Mail")},
+        {QStringLiteral("kommentar"), QStringLiteral("TEXT"),
+         QStringLiteral("Kommentar zum Status; mit --mail steht er auch in der E-Mail")}},
+       QStringLiteral("ändert den Status einer Bestellung im Shop und in Varda"),
+       &Befehl_Bestellungen_status},
+      {gruppe,
+       QStringLiteral("loeschen"),
+       {},
+       {},
+       QStringLiteral("löscht alle abgerufenen Bestellungen in Varda, nach Rückfrage"),
+       &Befehl_Bestellungen_loeschen},
+  };
+}
+
+std::vector<Befehl> Alle_Befehle() {
+  std::vector<Befehl> alle = Mandantenbefehle();
+  for (const auto &teil : {Einstellungsbefehle(), Bestellbefehle()})
+    alle.insert(alle.end(), teil.begin(), teil.end());
+  alle.push_back({QStringLiteral("schirm"),
+                  {},
+                  {{QStringLiteral("NAME")}},
+                  {},
+                  QStringLiteral("öffnet einen Bildschirm"),
+                  &Befehl_Schirm});
+  alle.push_back({QStringLiteral("vervollstaendigung"),
+                  {},
+                  {{QStringLiteral("SHELL"), {QStringLiteral("bash")}}},
+                  {},
+                  QStringLiteral("gibt ein Skript zur Vervollständigung der Befehle aus"),
+                  &Befehl_Vervollstaendigung});
+  return alle;
+}
+
+}  // namespace
+
+const std::vector<Befehlsgruppe> &Befehlsgruppen() {
+  static const std::vector<Befehlsgruppe> gruppen{
+      {QStringLiteral("mandant"), QStringLiteral("Mandanten anlegen")},
+      {QStringLiteral("einstellung"), QStringLiteral("Einstellungen des Mandanten lesen und ändern")},
+      {QStringLiteral("bestellungen"), QStringLiteral("Bestellungen abrufen, zeigen und fortschreiben")},
+      {QStringLiteral("schirm"), QStringLiteral("einen Bildschirm öffnen")},
+      {QStringLiteral("vervollstaendigung"), QStringLiteral("Vervollständigung für die Shell")},
+  };
+  return gruppen;
+}
+
+const std::vector<Befehl> &Befehle() {
+  static const std::vector<Befehl> befehle = Alle_Befehle();
+  return befehle;
+}
+
+const std::vector<Optionsbeschreibung> &Allgemeine_Optionen() {
+  static const std::vector<Optionsbeschreibung> optionen{
+      {QStringLiteral("ordner"), QStringLiteral("DIR"),
+       QStringLiteral("Programmordner (sonst MARKLINK_ORDNER, sonst im Datenordner des Benutzers)")},
+      {QStringLiteral("mandant"), QStringLiteral("NAME"),
+       QStringLiteral("Mandant (sonst MARKLINK_MANDANT, sonst der einzige der Mandantenliste)")},
+      {QStringLiteral("benutzer"), QStringLiteral("NAME"),
+       QStringLiteral("Mitarbeiter (sonst MARKLINK_BENUTZER, sonst Chef)")},
+      {QStringLiteral("antwort"), QStringLiteral("TITEL=ANTWORT"),
+       QStringLiteral("Antwort auf die nächste Frage mit diesem Titel: Ja, Nein, Abbrechen oder der Text; "
+                      "mehrfach möglich")},
+      {QStringLiteral("help"),
+       {},
+       QStringLiteral("diese Hilfe, auch -h und --hilfe; nach einem Befehl seine")},
+      {QStringLiteral("version"), {}, QStringLiteral("Version ausgeben")},
+  };
+  return optionen;
+}
+
+const Befehl *Befehl_suchen(const QString &Gruppe, const QString &Unterbefehl) {
+  for (const Befehl &b : Befehle())
+    if (b.Gruppe == Gruppe && b.Unterbefehl == Unterbefehl) return &b;
+  return nullptr;
+}
+
+}  // namespace marklink

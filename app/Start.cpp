@@ -1,0 +1,89 @@
+// The launcher from its arguments to its exit status.
+#include "Start.h"
+
+#include "Ausgabe.h"
+#include "Befehlszeile.h"
+#include "Hilfe.h"
+#include "Launcher_Komponenten.h"
+#include "Terminal_Dialoge.h"
+#include "Terminal_Fortschritt.h"
+#include "Unterbrechung.h"
+#include "db/Verbindung.h"
+#include "host/Kontext.h"
+
+namespace marklink {
+namespace {
+
+/// The ports of the terminal, installed as long as this lives.
+class Anschluesse {
+ public:
+  explicit Anschluesse(const Aufruf &A) : Dialoge_(A.Werte("antwort")) {
+    Dialoge_setzen(&Dialoge_);
+    Fortschritt_setzen(&Fortschritt_);
+    Host_Komponenten_setzen(&Komponenten_);
+    Verbindungsfenster_setzen(&Austausch_im_Terminal);
+    Unterbrechung_einrichten();
+  }
+  ~Anschluesse() {
+    Dialoge_setzen(nullptr);
+    Fortschritt_setzen(nullptr);
+    Host_Komponenten_setzen(nullptr);
+    Verbindungsfenster_setzen(nullptr);
+    db::Verbindungen_schliessen();
+  }
+  Anschluesse(const Anschluesse &) = delete;
+  Anschluesse &operator=(const Anschluesse &) = delete;
+
+  bool Fehler_gezeigt() const { return Dialoge_.Fehler_gezeigt(); }
+
+ private:
+  Terminal_Dialoge Dialoge_;
+  Terminal_Fortschritt Fortschritt_;
+  Launcher_Komponenten Komponenten_;
+};
+
+int Befehl_ausfuehren(const Aufruf &A) {
+  const Anschluesse anschluesse(A);
+  const int ausgang = A.Was->Ausfuehren(A);
+  if (ausgang != Erledigt) return ausgang;
+  if (Unterbrochen()) {
+    Fehler_melden(QStringLiteral("Abgebrochen; was bis dahin getan war, bleibt."));
+    return Fehlgeschlagen;
+  }
+  return anschluesse.Fehler_gezeigt() ? Fehlgeschlagen : Erledigt;
+}
+
+int Falschen_Aufruf_melden(const Befehlszeile &Zeile) {
+  Fehler_melden(Zeile.Fehler);
+  Melden(QStringLiteral("Aufruf: ") + Aufrufform(Zeile.Thema));
+  const QString thema = Zeile.Thema.isEmpty() ? QString() : Zeile.Thema.join(u' ') + u' ';
+  Melden(QStringLiteral("Hilfe:  marklink %1--help").arg(thema));
+  return Falscher_Aufruf;
+}
+
+int Ausfuehren(const Befehlszeile &Zeile) {
+  switch (Zeile.Was) {
+    case Befehlszeile::Art::Hilfe:
+      Ausgeben(Hilfetext(Zeile.Thema).trimmed());
+      return Erledigt;
+    case Befehlszeile::Art::Version:
+      Ausgeben(QStringLiteral("marklink ") + QStringLiteral(MARKLINK_VERSION));
+      return Erledigt;
+    case Befehlszeile::Art::Ausfuehren:
+      return Befehl_ausfuehren(Zeile.Aufruf_);
+    case Befehlszeile::Art::Fehler:
+      break;
+  }
+  return Falschen_Aufruf_melden(Zeile);
+}
+
+}  // namespace
+
+int Launcher_starten(const QStringList &Argumente) {
+  const int ausgang = Ausfuehren(Befehlszeile_lesen(Argumente));
+  if (Ausgabe_abschliessen()) return ausgang;
+  Fehler_melden(QStringLiteral("Die Ausgabe konnte nicht geschrieben werden."));
+  return ausgang == Erledigt ? int(Fehlgeschlagen) : ausgang;
+}
+
+}  // namespace marklink

@@ -1,0 +1,56 @@
+// Boxes on a terminal: which answer a question gets.
+#include "Terminal_Dialoge.h"
+
+#include "Launcher.h"
+
+namespace marklink::test {
+namespace {
+
+TEST(Terminal_Test, Antworten_der_Reihe_nach_und_sonst_die_schonendste) {
+  const struct {
+    const char *Antworten;
+    Knoepfe Auswahl;
+    std::vector<Antwort> Erwartet;
+  } faelle[] = {
+      {"", Knoepfe::JaNein, {Antwort::Nein}},
+      {"", Knoepfe::JaNeinAbbrechen, {Antwort::Abbrechen}},
+      {"", Knoepfe::OKAbbrechen, {Antwort::Abbrechen}},
+      {"", Knoepfe::OK, {Antwort::OK}},
+      {"Frage=Ja", Knoepfe::JaNein, {Antwort::Ja, Antwort::Nein}},
+      {"frage=ja FRAGE=NEIN Frage=Ja", Knoepfe::JaNein, {Antwort::Ja, Antwort::Nein, Antwort::Ja}},
+      {"Andere=Ja", Knoepfe::JaNein, {Antwort::Nein}},
+      {"Frage=Abbrechen", Knoepfe::JaNein, {Antwort::Nein}},
+      {"Frage=Jawohl", Knoepfe::JaNeinAbbrechen, {Antwort::Abbrechen}},
+      {"Frage=OK", Knoepfe::OKAbbrechen, {Antwort::OK}},
+  };
+  for (const auto &fall : faelle) {
+    Terminal_Dialoge d(Worte(fall.Antworten));
+    for (const Antwort erwartet : fall.Erwartet)
+      EXPECT_EQ(
+          d.Meldung(QStringLiteral("Frage"), {QStringLiteral("?")}, Symbol::Frage, fall.Auswahl, Antwort::Ja),
+          erwartet)
+          << fall.Antworten;
+    EXPECT_FALSE(d.Fehler_gezeigt());
+  }
+}
+
+TEST(Terminal_Test, Eingaben_und_was_davor_steht) {
+  Terminal_Dialoge d({QStringLiteral("Referenznummer eingeben=a=b")});
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(
+      d.Eingabe(QStringLiteral("Referenznummer eingeben"), QStringLiteral("Bitte."), QStringLiteral("v")),
+      QStringLiteral("a=b"));
+  EXPECT_EQ(
+      d.Eingabe(QStringLiteral("Referenznummer eingeben"), QStringLiteral("Bitte."), QStringLiteral("v")),
+      QString());
+  // A box that a line break or the shop's text could tear apart stays one line, without terminal commands.
+  d.Meldung(QStringLiteral("Fehler"), {QStringLiteral("eins\r\nzwei"), QStringLiteral("drei\x1b[2J")},
+            Symbol::Stopp, Knoepfe::OK, Antwort::OK);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "[Referenznummer eingeben] Bitte.\n[Referenznummer eingeben] Bitte.\n[Fehler] eins | zwei | drei "
+            "[2J\n");
+  EXPECT_TRUE(d.Fehler_gezeigt());
+}
+
+}  // namespace
+}  // namespace marklink::test
