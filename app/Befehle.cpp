@@ -1,6 +1,8 @@
 // The table of commands.
 #include "Befehle.h"
 
+#include "rules/Nummernkreise.h"
+
 namespace marklink {
 namespace {
 
@@ -91,10 +93,61 @@ std::vector<Befehl> Bestellbefehle() {
   };
 }
 
+Befehl Lagerbefehl() {
+  return {
+      QStringLiteral("lager"),
+      QStringLiteral("zuteilen"),
+      {{QStringLiteral("ARTIKEL")}, {QStringLiteral("MENGE")}},
+      {{QStringLiteral("lager"), QStringLiteral("NR"),
+        QStringLiteral("Lagernummer oder ihr Anfang (sonst das Lager, aus dem der Artikel entnommen wird)")},
+       Json},
+      QStringLiteral("zeigt, aus welchen Einlagerungen die Menge käme und was fehlt; gebucht wird nichts"),
+      &Befehl_Lager_zuteilen};
+}
+
+Befehl Nummernbefehl() {
+  Argumentbeschreibung bereich{QStringLiteral("BEREICH")};
+  for (const Nummernkreis &kreis : Nummernkreise()) bereich.Auswahl << kreis.Name;
+  return {QStringLiteral("nummer"),
+          {},
+          {bereich},
+          {},
+          QStringLiteral("zeigt die Nummer, die der nächste Beleg des Nummernkreises bekommt, ohne sie zu "
+                         "verbrauchen"),
+          &Befehl_Nummer};
+}
+
+std::vector<Befehl> Zahlungs_und_Versandbefehle() {
+  return {
+      {QStringLiteral("posten"),
+       {},
+       {{QStringLiteral("RECHNUNG")}},
+       {Json},
+       QStringLiteral("zeigt den offenen Posten einer Rechnung mit allen Beträgen"),
+       &Befehl_Posten},
+      {QStringLiteral("versandkosten"),
+       {},
+       {{QStringLiteral("METHODE")}, {QStringLiteral("LAND")}, {QStringLiteral("GEWICHT")}},
+       {Json},
+       QStringLiteral(
+           "zeigt, was eine Versandart in ein Land (Name oder Kürzel) für ein Gewicht in kg kostet; "
+           "reicht die Preisstaffel nicht, wird nach 'Versandkosten' gefragt"),
+       &Befehl_Versandkosten},
+  };
+}
+
 std::vector<Befehl> Alle_Befehle() {
   std::vector<Befehl> alle = Mandantenbefehle();
-  for (const auto &teil : {Einstellungsbefehle(), Bestellbefehle()})
+  for (const auto &teil : {Einstellungsbefehle(), Bestellbefehle(), Zahlungs_und_Versandbefehle()})
     alle.insert(alle.end(), teil.begin(), teil.end());
+  alle.push_back(Lagerbefehl());
+  alle.push_back(Nummernbefehl());
+  alle.push_back({QStringLiteral("preis"),
+                  {},
+                  {{QStringLiteral("ARTIKEL")}, {QStringLiteral("KUNDE")}, {QStringLiteral("MENGE")}},
+                  {Json},
+                  QStringLiteral("zeigt, was ein Artikel einen Kunden kostet und woher der Preis kommt"),
+                  &Befehl_Preis});
   alle.push_back({QStringLiteral("schirm"),
                   {},
                   {{QStringLiteral("NAME")}},
@@ -117,6 +170,11 @@ const std::vector<Befehlsgruppe> &Befehlsgruppen() {
       {QStringLiteral("mandant"), QStringLiteral("Mandanten anlegen")},
       {QStringLiteral("einstellung"), QStringLiteral("Einstellungen des Mandanten lesen und ändern")},
       {QStringLiteral("bestellungen"), QStringLiteral("Bestellungen abrufen, zeigen und fortschreiben")},
+      {QStringLiteral("lager"), QStringLiteral("Bestand prüfen")},
+      {QStringLiteral("nummer"), QStringLiteral("die nächste Nummer eines Nummernkreises zeigen")},
+      {QStringLiteral("posten"), QStringLiteral("den offenen Posten einer Rechnung zeigen")},
+      {QStringLiteral("versandkosten"), QStringLiteral("die Kosten einer Versandart zeigen")},
+      {QStringLiteral("preis"), QStringLiteral("den Preis eines Artikels für einen Kunden zeigen")},
       {QStringLiteral("schirm"), QStringLiteral("einen Bildschirm öffnen")},
       {QStringLiteral("vervollstaendigung"), QStringLiteral("Vervollständigung für die Shell")},
   };

@@ -56,7 +56,12 @@ int Befehl_Bestellungen_liste(const Aufruf &A);
 int Befehl_Bestellungen_zeigen(const Aufruf &A);
 int Befehl_Bestellungen_status(const Aufruf &A);
 int Befehl_Bestellungen_loeschen(const Aufruf &A);
+int Befehl_Lager_zuteilen(const Aufruf &A);
+int Befehl_Nummer(const Aufruf &A);
+int Befehl_Posten(const Aufruf &A);
+int Befehl_Preis(const Aufruf &A);
 int Befehl_Schirm(const Aufruf &A);
+int Befehl_Versandkosten(const Aufruf &A);
 int Befehl_Vervollstaendigung(const Aufruf &A);
 
 }  // namespace marklink

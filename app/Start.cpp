@@ -7,6 +7,7 @@
 #include "Launcher_Komponenten.h"
 #include "Terminal_Dialoge.h"
 #include "Terminal_Fortschritt.h"
+#include "Terminal_Ziehung.h"
 #include "Unterbrechung.h"
 #include "db/Verbindung.h"
 #include "host/Kontext.h"
@@ -22,6 +23,7 @@ class Anschluesse {
     Fortschritt_setzen(&Fortschritt_);
     Host_Komponenten_setzen(&Komponenten_);
     Verbindungsfenster_setzen(&Austausch_im_Terminal);
+    Stillstandsfrage_setzen(&Stillstand_im_Terminal);
     Unterbrechung_einrichten();
   }
   ~Anschluesse() {
@@ -29,6 +31,7 @@ class Anschluesse {
     Fortschritt_setzen(nullptr);
     Host_Komponenten_setzen(nullptr);
     Verbindungsfenster_setzen(nullptr);
+    Stillstandsfrage_setzen({});
     db::Verbindungen_schliessen();
   }
   Anschluesse(const Anschluesse &) = delete;

@@ -41,12 +41,27 @@ bool Tabelle_schreiben(const Tabellenzeilen &T, const QString &Verbindung) {
 
 }  // namespace
 
+namespace {
+
+void Artikelart_zuordnen(const db::Recordset &Satz, Mandantenvorgaben &V) {
+  const QString Name = Satz.Text(QStringLiteral("Description"));
+  if (Satz.Flag(QStringLiteral("Standard")) || V.Artikelart.isEmpty()) V.Artikelart = Name;
+  if (Satz.Flag(QStringLiteral("Variant")) && V.Variantenart.isEmpty()) V.Variantenart = Name;
+  if (!Satz.Flag(QStringLiteral("Stock")) && V.Dienstart.isEmpty()) V.Dienstart = Name;
+  if (Name == QStringLiteral("Stückliste")) V.Stuecklistenart = Name;
+}
+
+}  // namespace
+
 Mandantenvorgaben Vorgaben_lesen(const QString &Verbindung) {
   Mandantenvorgaben V;
   db::Recordset Satz;
   for (Satz.Open("SELECT * FROM ArticleTypes", Verbindung); !Satz.IsEOF(); Satz.MoveNext())
-    if (Satz.Flag(QStringLiteral("Standard")) || V.Artikelart.isEmpty())
-      V.Artikelart = Satz.Text(QStringLiteral("Description"));
+    Artikelart_zuordnen(Satz, V);
+  for (QString *Art : {&V.Variantenart, &V.Stuecklistenart, &V.Dienstart})
+    if (Art->isEmpty()) *Art = V.Artikelart;
+  for (Satz.Open("SELECT * FROM Countries", Verbindung); !Satz.IsEOF(); Satz.MoveNext())
+    V.Laender.insert(Satz.Text(QStringLiteral("Token")), Satz.Text(QStringLiteral("Description")));
   // The first key of a rate is the domestic one.
   for (Satz.Open("SELECT * FROM Taxes ORDER BY TaxKeyNumber", Verbindung); !Satz.IsEOF(); Satz.MoveNext()) {
     const double Prozent = Satz.Number(QStringLiteral("Percentage"));
@@ -77,11 +92,18 @@ std::vector<Demoeinstellung> Demomandant_Einstellungen(int Port) {
   const auto Zeile = [](const char *Schluessel, const QString &Wert) {
     return Demoeinstellung{QStringLiteral("Marklink"), QLatin1String(Schluessel), Wert};
   };
+  const auto Kreis = [](const char *Name, const char *Stand) {
+    return Demoeinstellung{QStringLiteral("NumberRange"), QLatin1String(Name), QLatin1String(Stand)};
+  };
   return {Zeile("project", QStringLiteral("Demo-Shop")), Zeile("hostname", QStringLiteral("127.0.0.1")),
           Zeile("port", QString::number(Port)), Zeile("folder", QStringLiteral("/")),
           Zeile("username", Shopzugang::Benutzer()), Zeile("password", Shopzugang::Passwort()),
           // German is number 2 in the shop; articles fetched later keep the shop's numbers.
-          Zeile("language", QStringLiteral("2")), Zeile("disposeproductid", QStringLiteral("1"))};
+          Zeile("language", QStringLiteral("2")), Zeile("disposeproductid", QStringLiteral("1")),
+          // The demo's documents have the numbers before these. Payments are one behind, as after a crash:
+          // the next one has to step over a number that is taken.
+          Kreis("Contract", "00003"), Kreis("Invoice", "00014"), Kreis("OpenItem", "000018"),
+          Kreis("Payment", "000006"), Kreis("Reservation", "000005")};
 }
 
 }  // namespace marklink::demo

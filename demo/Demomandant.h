@@ -2,6 +2,7 @@
 // with groups, variants, prices and stock. They go on top of a new client's reference rows.
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <vector>
 
@@ -12,10 +13,12 @@ namespace marklink::demo {
 
 /// What the demo rows take from the client's reference rows and settings.
 struct Mandantenvorgaben {
-  QString Artikelart;                              ///< standard type of articles
-  QString Steuer_voll, Steuer_ermaessigt;          ///< tax keys of 19 and 7 per cent
-  QString Lager = QStringLiteral("1");             ///< storage number that the articles are taken from
-  QString Variantenzeichen = QStringLiteral("-");  ///< Program/VariantToken
+  QString Artikelart;                                ///< standard type of articles
+  QString Variantenart, Stuecklistenart, Dienstart;  ///< of variants, parts lists, what is not in stock
+  QString Steuer_voll, Steuer_ermaessigt;            ///< tax keys of 19 and 7 per cent
+  QString Lager = QStringLiteral("1");               ///< storage number that the articles are taken from
+  QString Variantenzeichen = QStringLiteral("-");    ///< Program/VariantToken
+  QHash<QString, QString> Laender;                   ///< Description by token ("DE")
 };
 /// From the database `Verbindung` and the settings of the client in the program context.
 Mandantenvorgaben Vorgaben_lesen(const QString &Verbindung);

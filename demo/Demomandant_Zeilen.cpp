@@ -1,4 +1,5 @@
 // The demo client's articles with groups, prices and stock.
+#include "Demomandant_Buecher.h"
 #include "Demomandant_Varianten.h"
 
 #include "Demoshop_Zeilen.h"
@@ -72,19 +73,22 @@ void Shoplisten(const Demodaten &D, std::vector<Tabellenzeilen> &Alle) {
   Alle.push_back(std::move(Stati));
 }
 
-/// Lots of one article or variant. What is left over of larger stocks lies in the outside store, where orders
-/// do not reach it.
+/// Lots of one article or variant. Date, price and quantity of the lots put them into different orders, so
+/// that each unloading policy takes others. What is left over of larger stocks lies in the outside store,
+/// where orders do not reach it.
 class Lagerschreiber {
  public:
   Lagerschreiber(const Demodaten &D, const Mandantenvorgaben &V) : D_(D), V_(V) {}
 
   void einlagern(const Artikel &A, const QString &Nummer, const QString &Kurztext, int Menge) {
     if (Menge <= 0) return;
-    const int Zweiter = Menge >= 8 ? Menge * 3 / 10 : 0;
-    const int Aussen = Menge >= 40 ? Menge / 5 : 0;
-    Posten(A, Nummer, Kurztext, Menge - Zweiter - Aussen, 0);
+    const int Zweiter = Menge >= 8 ? Menge / 5 : 0;
+    const int Dritter = Menge >= 10 ? Menge * 3 / 10 : 0;
+    const int Aussen = Menge >= 40 ? Menge / 10 : 0;
+    Posten(A, Nummer, Kurztext, Menge - Zweiter - Dritter - Aussen, 0);
     Posten(A, Nummer, Kurztext, Zweiter, 1);
-    Posten(A, Nummer, Kurztext, Aussen, 2);
+    Posten(A, Nummer, Kurztext, Dritter, 2);
+    Posten(A, Nummer, Kurztext, Aussen, 3);
   }
   Tabellenzeilen Zeilen{
       "Warehouse",
@@ -97,19 +101,20 @@ class Lagerschreiber {
   void Posten(const Artikel &A, const QString &Nummer, const QString &Kurztext, int Menge, int Lauf) {
     if (Menge <= 0) return;
     const int n = static_cast<int>(Zeilen.Zeilen.size()) + 1;
-    const bool Aussen = Lauf == 2;
+    const bool Aussen = Lauf == 3;
     const QString Fach = Aussen ? QStringLiteral("AL-%1").arg(A.Id % 7 + 1, 2, 10, QLatin1Char('0'))
                                 : QStringLiteral("%1-%2-%3")
                                       .arg(V_.Lager)
                                       .arg(QChar(u'A' + A.Kategorie / 10))
                                       .arg(A.Id % 20 + Lauf + 1, 2, 10, QLatin1Char('0'));
-    // Later lots were dearer by two per cent each.
-    const Cent Einkauf = teilen_gerundet(A.Netto * (60 + 2 * Lauf), 10000);
+    // Per cent of the net price: the second lot was the dearest, the third the cheapest.
+    constexpr int Einkaufssatz[] = {60, 64, 56, 61};
+    const Cent Einkauf = teilen_gerundet(A.Netto * Einkaufssatz[Lauf], 10000);
     Zeilen.Zeilen.push_back(
         {QStringLiteral("LA%1").arg(n, 6, 10, QLatin1Char('0')),
          Aussen ? QStringLiteral("Außenlager") : QStringLiteral("Hauptlager"), Fach, Nummer, Kurztext,
          QStringLiteral("L%1").arg(700 + A.Kategorie), QStringLiteral("Großhandel Weserbergland"),
-         QDateTime(D_.Heute.addDays(-320 + 90 * Lauf + A.Id % 30), QTime(0, 0)), Euro(Einkauf),
+         QDateTime(D_.Heute.addDays(-320 + 80 * Lauf + A.Id % 30), QTime(0, 0)), Euro(Einkauf),
          QStringLiteral("CH%1%2").arg(A.Id).arg(Lauf + 1), A.Einheit, double(Menge), 0.0, double(Menge),
          Kategorie_zu(D_, A.Kategorie).Name, Pfad(D_, A.Kategorie), QStringLiteral("Chef")});
   }
@@ -222,7 +227,10 @@ void Mandantenwerk::Preise_anhaengen(const Artikel &A, const QString &Nummer, Fe
 }  // namespace
 
 std::vector<Tabellenzeilen> Demomandant_Zeilen(const Demodaten &D, const Mandantenvorgaben &V) {
-  return Mandantenwerk(D, V).alles();
+  std::vector<Tabellenzeilen> Alle = Mandantenwerk(D, V).alles();
+  for (auto Teil : {Hausartikel(D, V), Kunden_der_Buecher(D, V), Belege_der_Buecher(D, V)})
+    for (Tabellenzeilen &T : Teil) Alle.push_back(std::move(T));
+  return Alle;
 }
 
 }  // namespace marklink::demo

@@ -158,7 +158,6 @@ bool Uebersetzer::Vergleich() {
     ++i_;
     return Textwert();
   }
-  Aus_.Wiederverwendbar = false;
   const QStringList varianten = Textvarianten(wert.Text);
   i_ += 2;
   if (varianten.isEmpty()) {
@@ -213,10 +212,8 @@ bool Uebersetzer::Mitglied() {
   const bool unterabfrage = ist(i_ + 2, "SELECT");
   bool sortiert = false;
   for (std::size_t k = i_ + 2; k < ende && !unterabfrage; ++k) {
-    if (K_[k].Art == Art::Text && !Wert_schlicht(K_[k].Text)) {
-      Aus_.Wiederverwendbar = false;
-      sortiert = sortiert || Textvarianten(K_[k].Text).isEmpty();
-    }
+    const bool schlicht = K_[k].Art != Art::Text || Wert_schlicht(K_[k].Text);
+    sortiert = sortiert || (!schlicht && Textvarianten(K_[k].Text).isEmpty());
   }
   if (sortiert) {
     // Belongs to the left side, so before a NOT that is written already.

@@ -17,8 +17,8 @@ struct Uebersetzung {
   /// For each of `Werte` the index in Anweisung::Stuecke() that it was taken from, -1 for one of the text's
   /// own.
   std::vector<int> Herkunft;
-  /// False when `Sql` suits these values only: another statement of the same literals must be translated
-  /// anew.
+  /// True when `Sql` suits every statement of the same literals that differs in plain values only (see
+  /// Wert_schlicht); the others shape it. False when it suits these values only.
   bool Wiederverwendbar = true;
   /// The table of a plain SELECT on one table (no join, no sums), and where in `Sql` its select list ends.
   QString Einzeltabelle;

@@ -10,7 +10,8 @@ namespace marklink::db {
 namespace {
 
 constexpr qsizetype Vorrat_hoechstens = 256;
-constexpr std::size_t Werte_hoechstens = 64;  ///< a statement with more, a long IN list, is not kept
+constexpr std::size_t Werte_hoechstens = 64;          ///< a statement with more, a long IN list, is not kept
+constexpr qsizetype Formende_Werte_hoechstens = 128;  ///< characters; texts are written, hardly looked up
 
 QString Text_von(const char *Utf8) { return Utf8 ? QString::fromUtf8(Utf8) : QString(); }
 
@@ -30,10 +31,20 @@ void Wert_binden(sqlite3_stmt *Stmt, int Stelle, const Anweisung::Stueck &S) {
                       SQLITE_TRANSIENT, SQLITE_UTF8);
 }
 
-bool alle_schlicht(const Anweisung &Sql) {
-  return std::all_of(Sql.Stuecke().begin(), Sql.Stuecke().end(), [](const Anweisung::Stueck &s) {
-    return s.Art != Anweisung::Stueck::Art::Textwert || Wert_schlicht(s.Text);
-  });
+/// What statements have in common that one translation serves: the literals, and the values that shape it
+/// (see Dialekt.cpp). Empty when those are too long to be kept.
+QString Vorratsschluessel(const Anweisung &Sql) {
+  QString schluessel = Sql.Schluessel();
+  qsizetype laenge = 0;
+  int nummer = 0;
+  for (const Anweisung::Stueck &s : Sql.Stuecke()) {
+    ++nummer;
+    if (s.Art != Anweisung::Stueck::Art::Textwert || Wert_schlicht(s.Text)) continue;
+    laenge += s.Text.size();
+    if (laenge > Formende_Werte_hoechstens) return {};
+    schluessel += QStringLiteral("\n%1:%2:").arg(nummer).arg(s.Text.size()) + s.Text;
+  }
+  return schluessel;
 }
 
 template <typename Vorrat>
@@ -96,10 +107,8 @@ std::shared_ptr<Vorbereitet> SQLite_Anweisungen::uebersetzt_vorbereiten(const Ue
 }
 
 std::shared_ptr<Vorbereitet> SQLite_Anweisungen::Dialekttext(const Anweisung &Sql) {
-  // A value with umlauts changes the statement's shape, see Dialekt.cpp.
-  const bool schlicht = alle_schlicht(Sql);
-  const QString schluessel = schlicht ? Sql.Schluessel() : QString();
-  if (schlicht) {
+  const QString schluessel = Vorratsschluessel(Sql);
+  if (!schluessel.isEmpty()) {
     if (const auto fertig = Nach_Text_.value(schluessel)) {
       fertig->Zuletzt = ++Uhr_;
       return fertig;
@@ -111,7 +120,8 @@ std::shared_ptr<Vorbereitet> SQLite_Anweisungen::Dialekttext(const Anweisung &Sq
     return nullptr;
   }
   const auto v = uebersetzt_vorbereiten(*uebersetzung);
-  if (v && schlicht && uebersetzung->Wiederverwendbar && v->Herkunft.size() <= Werte_hoechstens) {
+  if (v && !schluessel.isEmpty() && uebersetzung->Wiederverwendbar &&
+      v->Herkunft.size() <= Werte_hoechstens) {
     Platz_schaffen(Nach_Text_);
     v->Zuletzt = ++Uhr_;
     Nach_Text_.insert(schluessel, v);

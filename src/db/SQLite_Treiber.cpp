@@ -146,6 +146,8 @@ bool SQLite_Sitzung::Einrichten() {
     sqlite3_exec(Db_, "PRAGMA journal_mode = WAL", nullptr, nullptr, nullptr);
   }
   sqlite3_exec(Db_, "PRAGMA synchronous = NORMAL", nullptr, nullptr, nullptr);
+  // At most 64 MB of pages, as they are asked for: single look-ups all over a large table find them again.
+  sqlite3_exec(Db_, "PRAGMA cache_size = -65536", nullptr, nullptr, nullptr);
   return true;
 }
 

@@ -65,9 +65,10 @@ struct Programmkontext {
   qint32 gArticlepricing = 0;
 
   // state of the running program
-  bool gAbbrechen = false;  ///< set by the cancel button of the progress window
-  bool gLaeuft = false;     ///< a batch runs
-  qint32 gVersender = 0;    ///< shipper; only 0 exists
+  bool gAbbrechen = false;           ///< set by the cancel button of the progress window
+  bool gLaeuft = false;              ///< a batch runs
+  qint32 gVersender = 0;             ///< shipper; only 0 exists
+  double gFreeShippingAmount = 0.0;  ///< the free-shipping limit last found
 };
 
 extern Programmkontext Kontext;

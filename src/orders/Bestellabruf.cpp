@@ -2,6 +2,7 @@
 #include "Bestellabruf.h"
 
 #include "host/Datenbank.h"
+#include "rules/Zahlungsverkehr.h"
 #include "shop/Aktionen.h"
 #include "ui/Dialoge.h"
 
@@ -30,14 +31,6 @@ QString Bestellparameter(const Pruefliste &lvwAuftragsstatus) {
 
 bool Bestellungen_loeschen() { return Ausfuehren("DELETE FROM WebshopOrdersXTC"); }
 
-QString Zahlungsart_aus_Token(const QString &Token) {
-  return Abfragen({"SELECT Description FROM MethodPayments WHERE Token = ", db::Wert{Token}})
-      .Text(QStringLiteral("Description"));
-}
-
-QString Versandart_aus_Token(const QString &Token) {
-  return Abfragen({"SELECT Description FROM ForwardingCharges WHERE Token = ", db::Wert{Token}})
-      .Text(QStringLiteral("Description"));
-}
+QString Zahlungsart_aus_Token(const QString &Token) { return Zahlart_Bezeichnung(Token); }
 
 }  // namespace marklink

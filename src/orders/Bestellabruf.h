@@ -28,6 +28,5 @@ bool Bestellungen_loeschen();
 double Bestellsumme_ermitteln(const pugi::xml_node &OrderInfo, const char *Klasse);
 
 QString Zahlungsart_aus_Token(const QString &Token);  ///< Description; empty when unknown
-QString Versandart_aus_Token(const QString &Token);   ///< Description; empty when unknown
 
 }  // namespace marklink

@@ -11,6 +11,7 @@
 #include "host/Kontext.h"
 #include "host/Uhr.h"
 #include "host/Zahlen.h"
+#include "rules/Versandkosten.h"
 #include "shop/Antwort.h"
 #include "ui/Fortschritt.h"
 

@@ -455,7 +455,18 @@ TEST_P(Recordset_Test, Abfragen_kennen_Umlaute) {
   QString folge;
   for (; !r.IsEOF(); r.MoveNext()) folge += r.Text(T("OrderID"));
   EXPECT_EQ(folge, T("15234"));
-  // The same statement with a plain value uses the kept one; with umlauts it must not.
+  // A kept statement serves other plain values, but never other ones with umlauts.
+  const struct {
+    const char *Kunde, *Nummer;
+    int Anzahl;
+  } tafel[] = {{"äpfel", "2", 1},        {"äpfel", "3", 0}, {"Äpfel", "2", 1},
+               {"apfel", "3", 1},        {"äöüéè", "4", 1}, {"äpfel", "4", 0},
+               {"äpfel\n4:1:ö", "2", 0}, {"äpfel", "ö", 0}, {"birne", "5", 1}};
+  for (const auto &t : tafel)
+    EXPECT_EQ(anzahl({"SELECT * FROM Orders WHERE Customer = ", Wert{T(t.Kunde)},
+                      " AND OrderID = ", Wert{T(t.Nummer)}}),
+              t.Anzahl)
+        << t.Kunde << ' ' << t.Nummer;
   EXPECT_EQ(anzahl({"SELECT * FROM Orders WHERE Customer = ", Wert{T("ZOO")}}), 1);
   EXPECT_EQ(anzahl({"SELECT * FROM Orders WHERE Customer = ", Wert{T("äPFEL")}}), 1);
 }

@@ -83,6 +83,7 @@ TEST_P(Demomandant_Test, Bestand_der_Artikel_ist_die_Summe_der_Lagerzeilen) {
   int Hauptartikel = 0;
   db::Recordset A = Abfragen({"SELECT * FROM Articles WHERE Character = ", db::Zahl(Kontext.gSQL_False)});
   for (; !A.IsEOF(); A.MoveNext()) {
+    if (A.Text(QStringLiteral("WebshopID")).isEmpty()) continue;  // the host's own, without the shop's form
     const QString Nummer = A.Text(QStringLiteral("ArticleNumber"));
     if (A.Flag(QStringLiteral("Variant")))
       Varianten[A.Text(QStringLiteral("ArticleNumberVariant"))] += A.Number(QStringLiteral("Disposable"));
@@ -106,8 +107,9 @@ TEST_P(Demomandant_Test, Bestand_der_Artikel_ist_die_Summe_der_Lagerzeilen) {
 
 TEST_P(Demomandant_Test, Varianten_fuehren_ihre_Auspraegungen) {
   int Zeilen = 0;
-  for (db::Recordset S = Abfragen("SELECT * FROM ArticlePartslist"); !S.IsEOF() && Zeilen < 60;
-       S.MoveNext(), ++Zeilen) {
+  for (db::Recordset S =
+           Abfragen({"SELECT * FROM ArticlePartslist WHERE Layout = ", db::Zahl(Kontext.gSQL_True)});
+       !S.IsEOF() && Zeilen < 60; S.MoveNext(), ++Zeilen) {
     const db::Recordset Auspraegung = Abfragen(
         {"SELECT * FROM Articles WHERE ArticleNumber = ", db::Wert{S.Text(QStringLiteral("ArticleNumber"))}});
     EXPECT_TRUE(Auspraegung.Flag(QStringLiteral("Character")) && Auspraegung.Flag(QStringLiteral("Variant")));
@@ -126,7 +128,7 @@ TEST_P(Demomandant_Test, Vorhandene_Listenzeilen_bleiben_wie_sie_sind) {
   EXPECT_EQ(Paar.RecordCount(), 1);
   EXPECT_EQ(Paar.Text(QStringLiteral("WebshopID")), QString());
   EXPECT_EQ(Anzahl("SELECT * FROM Units"), 18);
-  EXPECT_EQ(Anzahl("SELECT * FROM CustomerTypes"), 5);
+  EXPECT_EQ(Anzahl("SELECT * FROM CustomerTypes"), 7);
   // The books refuse the same articles a second time.
   EXPECT_FALSE(Demomandant_schreiben(Kontext.gConnectionString, Demo_Stichtag()));
   EXPECT_EQ(Anzahl("SELECT * FROM Units"), 18);

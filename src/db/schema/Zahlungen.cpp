@@ -1,4 +1,4 @@
-// Open items, payments, payment methods and terms.
+// Open items, payments, payment methods and terms, and what is handed to the bank and to the accounts.
 #include "Tabellen.h"
 
 namespace marklink::db::schema {
@@ -58,6 +58,21 @@ std::vector<Tabelle> Zahlungstabellen() {
        {Text("Description"), Kurzzahl("PaymentPeriod"), Kurzzahl("DiscountPeriod"), Gleitkomma("Discount"),
         Ja_Nein("Active"), Ja_Nein("Standard")},
        {"Description"}},
+      {"DTABookings",
+       {Autowert("BookingNumber"), Kurzzahl("BookingType"), Ja_Nein("Executed"), Datum("Date"),
+        Text("AccountHolder"), Kurztext("AccountNumber"), Text("Bankname"), Kurztext("BankCode"),
+        Gleitkomma("Amount"), Text("Purpose1"), Text("Purpose2"), Kurztext("document"),
+        Nummer("DocumentNumber"), Text("Employee"), Datum("DateCreation")},
+       {"BookingNumber"},
+       {{"document", "DocumentNumber"}}},
+      {"AccountingRecords",
+       {Autowert("AccountingNumber"), Kurztext("document"), Nummer("DocumentNumber"), Kurzzahl("RecordType"),
+        Datum("Date"), Text("BookingText"), Gleitkomma("Amount"), Gleitkomma("VatAmount"),
+        Kurztext("DebitAccount"), Kurztext("CreditAccount"), Kurztext("ReferenceDocument"),
+        Nummer("ReferenceDocumentNumber"), Nummer("ContactNumber"), Text("Contact"), Text("Store"),
+        Text("Employee"), Datum("DateCreation")},
+       {"AccountingNumber"},
+       {{"document", "DocumentNumber"}}},
   };
 }
 

@@ -1,0 +1,85 @@
+// Back orders of a document, and the stock totals of its articles.
+#include <QSet>
+
+#include "Kunden.h"
+#include "Lager.h"
+#include "Lager_Teile.h"
+#include "Zuteilungsliste.h"
+#include "db/Ablaufverfolgung.h"
+#include "db/Zeitpunkt.h"
+#include "generateGUID.h"
+#include "host/Datenbank.h"
+#include "host/Kontext.h"
+
+namespace marklink {
+namespace {
+
+/// The totals of one article into its row.
+void Bestand_summieren(db::Recordset &Artikel, const QString &Nummer, const QString &Lager) {
+  const QString reserviert = QStringLiteral("Unsociable"), frei = QStringLiteral("Disposable");
+  db::Anweisung sql("SELECT * FROM Warehouse WHERE ArticleNumber = ", db::Wert{Nummer});
+  if (!Lager.isEmpty()) sql += db::Anweisung(" AND StorageNumber = ", db::Wert{Lager});
+  db::Recordset lager = Abfragen(sql);
+  // Without its lots the article keeps its totals.
+  if (!lager.IsOpen()) return;
+  double summe_reserviert = 0, summe_frei = 0;
+  for (; !lager.IsEOF(); lager.MoveNext()) {
+    summe_reserviert = Menge_summe(summe_reserviert, lager.Number(reserviert));
+    summe_frei = Menge_summe(summe_frei, lager.Number(frei));
+  }
+  Artikel.SetValue(reserviert, summe_reserviert);
+  Artikel.SetValue(frei, summe_frei);
+  Artikel.Update();
+}
+
+}  // namespace
+
+db::Recordset Positionen_lesen(const QString &Beleg, const QString &Belegnummer) {
+  return Abfragen({"SELECT * FROM Positions WHERE Document = ", db::Wert{Beleg},
+                   " AND DocumentNumber = ", db::Wert{Belegnummer}});
+}
+
+void Artikelbestand_aktualisieren(const QString &Beleg, const QString &Belegnummer, const QString &Lager) {
+  db::Recordset artikel = Abfragen("SELECT * FROM Articles");
+  QSet<QString> erledigte;
+  for (db::Recordset p = Positionen_lesen(Beleg, Belegnummer); !p.IsEOF(); p.MoveNext()) {
+    const QString nummer = p.Text(QStringLiteral("ArticleNumber"));
+    if (erledigte.contains(nummer)) continue;
+    erledigte.insert(nummer);
+    if (artikel.Filter({"ArticleNumber = ", db::Wert{nummer}}) && artikel.RecordCount() > 0)
+      Bestand_summieren(artikel, nummer, Lager);
+    else
+      Ablauf_melden(QStringLiteral("Artikelbestand_aktualisieren"), QStringLiteral("no article ") + nummer);
+  }
+  if (artikel.HasPendingChanges()) artikel.UpdateBatch();
+}
+
+void Rueckstaende_erzeugen(const QString &Beleg, const QString &Belegnummer, const QString &Kundennummer) {
+  // With the old rows still there the new ones would double them.
+  if (!Ausfuehren({"DELETE FROM BackOrder WHERE Document = ", db::Wert{Beleg}, " AND DocumentNumber = ",
+                   db::Wert{Belegnummer}, " AND CustomerNumber = ", db::Wert{Kundennummer}}))
+    return;
+  db::Recordset rueckstaende = Abfragen("SELECT * FROM BackOrder");
+  const auto setzen = [&rueckstaende](const char *feld, const QVariant &wert) {
+    rueckstaende.SetValue(QLatin1String(feld), wert);
+  };
+  const QVariant kunde = Kunden_Feld(Kundennummer, Kundenfeld::Matchcode);
+  for (db::Recordset p = Positionen_lesen(Beleg, Belegnummer); !p.IsEOF(); p.MoveNext()) {
+    const double menge = p.Number(QStringLiteral("BackOrder"));
+    if (menge == 0.0) continue;
+    rueckstaende.AddNew();
+    setzen("uid", generateGUID());
+    setzen("CustomerNumber", Kundennummer);
+    setzen("Customer", kunde);
+    setzen("Date", Zeitpunkt(Kontext.gHeute));
+    setzen("document", Beleg);
+    setzen("DocumentNumber", Belegnummer);
+    for (const char *feld : {"LineItemNumber", "ArticleNumber", "ShortText"})
+      setzen(feld, p.Value(QLatin1String(feld)));
+    setzen("Quantity", menge);
+    rueckstaende.Update();
+  }
+  if (rueckstaende.HasPendingChanges()) rueckstaende.UpdateBatch();
+}
+
+}  // namespace marklink

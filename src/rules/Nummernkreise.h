@@ -1,0 +1,48 @@
+// Number ranges: the numbers of documents, customers, articles and bookings.
+//
+// A range is a counter and a format in the settings store. Drawing is two steps: Nummer_ziehen() gives the
+// number, and once it is to be used Nummernkreis_hochzaehlen() moves the counter. So the counter holds the
+// number that the next document will show, not the last one used. No lock is held in between: two
+// workstations can draw the same number, and only rows that are stored already are seen.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+namespace marklink {
+
+struct Nummernkreis {
+  QString Name;
+  QString Tabelle, Feld;  ///< where each number must be unique
+};
+
+/// The ranges in use.
+const std::vector<Nummernkreis> &Nummernkreise();
+/// The range of that name (case does not matter), or nullptr.
+const Nummernkreis *Nummernkreis_suchen(const QString &Name);
+
+/// The number that the range's counter and format give now; nothing is changed. Empty, but not null, for a
+/// range without any format.
+QString Belegnummer_formatieren(const QString &Bereich);
+
+/// Whether the table holds a row with that value. False when the table cannot be read or the value holds an
+/// apostrophe: the number then counts as free.
+bool Nummer_vorhanden(const QString &Tabelle, const QString &Feld, const QString &Wert);
+
+/// The next unused number. The counter moves only past numbers that are taken, and then even where counting
+/// is switched off. A null text when the drawing was ended without a number, by a cancel (Kontext.gAbbrechen)
+/// or at a standstill (Ziehungsaufsicht.h): the caller then writes nothing.
+QString Nummer_ziehen(const QString &Tabelle, const QString &Feld, const QString &Bereich);
+
+/// Moves the counter by one, unless counting is switched off for the range ("0").
+void Nummernkreis_hochzaehlen(const QString &Bereich);
+
+struct Nummernvorschau {
+  QString Nummer;
+  bool Frei = false;  ///< false: `Nummer` is taken and the range leads to no other, or Kontext.gAbbrechen
+};
+
+/// What Nummer_ziehen() would give; nothing is changed. Always ends.
+Nummernvorschau Nummer_vorausschauen(const QString &Tabelle, const QString &Feld, const QString &Bereich);
+
+}  // namespace marklink

@@ -1,0 +1,164 @@
+// The launcher's host components, and what the command line tells of shipping costs and open items.
+#include <sqlite3.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "Launcher.h"
+#include "Launcher_Komponenten.h"
+#include "host/Datenbank.h"
+#include "host/Kontext.h"
+#include "rules/Zahlungsverkehr.h"
+#include "support/Testmandant.h"
+
+namespace marklink::test {
+namespace {
+
+class Komponenten_Test : public Mandant_Test {
+ protected:
+  Komponenten_Test() {
+    Host_Komponenten_setzen(&Komponenten);
+    Option_schreiben(u"Program"_qs, u"AccountingRecordBooking"_qs, u"1"_qs);
+    Option_schreiben(u"DATEV"_qs, u"AccountPaymentIncome"_qs, u"1200"_qs);
+    Option_schreiben(u"NumberRange"_qs, u"Payment"_qs, u"1"_qs);
+    Option_schreiben(u"Formatting"_qs, u"Payment"_qs, u"Nr."_qs);
+    Mandant.Zeile(u"Invoice"_qs,
+                  {u"InvoiceNumber"_qs, u"R1"_qs, u"TotalAmount"_qs, 119.0, u"VatAmount"_qs, 19.0, u"Date"_qs,
+                   u"2024-06-14 00:00:00"_qs, u"CustomerNumber"_qs, u"K1"_qs, u"Customer"_qs, u"Groß"_qs});
+  }
+  ~Komponenten_Test() override { Host_Komponenten_setzen(nullptr); }
+  static std::unique_ptr<Host_Komponente> Bereit(const QString &Name) {
+    auto k = Host_Komponente_erzeugen(Name);
+    EXPECT_TRUE(
+        Host_Komponente_aufrufen(k.get(), u"Initialisierung"_qs, {Kontext.gFirmenname, u"Chef"_qs}).toBool());
+    return k;
+  }
+  static db::Recordset Saetze() {
+    return Abfragen("SELECT * FROM AccountingRecords ORDER BY AccountingNumber");
+  }
+  Launcher_Komponenten Komponenten;
+};
+MARKLINK_BEIDE_TYPEN(Komponenten_Test);
+
+TEST_P(Komponenten_Test, Zahlungseingang_wird_gebucht_und_kennt_seinen_Satz) {
+  const auto zahlung = Zahlungseingang_erzeugen(
+      {u"Rechnung"_qs, u"R1"_qs, QDate(2024, 6, 15), u"Bar"_qs, u"Groß"_qs, u"K1"_qs, 119.0});
+  ASSERT_TRUE(zahlung);
+  const db::Recordset satz = Saetze();
+  ASSERT_EQ(satz.RecordCount(), 1);
+  EXPECT_EQ(satz.Text(u"BookingText"_qs), u"ZE für Rechnung R1 vom 15.06.2024"_qs);
+  EXPECT_EQ(satz.Text(u"Date"_qs), u"2024-06-15 00:00:00"_qs);
+  EXPECT_EQ(satz.Number(u"Amount"_qs), 119.0);
+  EXPECT_FALSE(satz.IsNull(u"VatAmount"_qs));
+  EXPECT_EQ(satz.Text(u"DebitAccount"_qs), u"1200"_qs);
+  EXPECT_EQ(satz.Text(u"ReferenceDocumentNumber"_qs), u"R1"_qs);
+  EXPECT_EQ(Abfragen("SELECT * FROM PaymentIncome").Text(u"AccountingNumber"_qs),
+            satz.Text(u"AccountingNumber"_qs));
+  const auto datev = Bereit(u"datev.common"_qs);
+  EXPECT_TRUE(Host_Komponente_aufrufen(datev.get(), u"Beleg_gebucht"_qs,
+                                       {u"PaymentIncome"_qs, u"PaymentNumber"_qs, zahlung->Nummer})
+                  .toBool());
+}
+
+TEST_P(Komponenten_Test, Buchungssaetze_eines_Belegs_kommen_und_gehen) {
+  const auto datev = Bereit(u"DATEV.common"_qs);
+  const auto rufen = [&datev](const QString &operation, const QVariantList &argumente) {
+    return Host_Komponente_aufrufen(datev.get(), operation, argumente).toBool();
+  };
+  const QVariantList frage{u"Invoice"_qs, u"InvoiceNumber"_qs, u"R1"_qs};
+  EXPECT_FALSE(rufen(u"Beleg_gebucht"_qs, frage));
+  EXPECT_TRUE(rufen(u"Beleg_Buchungen_erstellen"_qs, {u"Rechnung"_qs, u"R1"_qs, 1}));
+  EXPECT_TRUE(rufen(u"Beleg_gebucht"_qs, frage));
+  EXPECT_EQ(Saetze().Number(u"Amount"_qs), 119.0);
+  EXPECT_EQ(Saetze().Number(u"VatAmount"_qs), 19.0);
+  EXPECT_EQ(Saetze().Number(u"RecordType"_qs), 1.0);
+  EXPECT_TRUE(rufen(u"Beleg_Buchungen_loeschen"_qs, {u"Rechnung"_qs, u"R1"_qs}));
+  EXPECT_FALSE(rufen(u"Beleg_gebucht"_qs, frage));
+  EXPECT_FALSE(rufen(u"Beleg_Buchungen_erstellen"_qs, {u"Rechnung"_qs, u"R9"_qs, 1}));
+  EXPECT_FALSE(rufen(u"Beleg_Buchungen_erstellen"_qs, {u"Angebot"_qs, u"R1"_qs, 1}));
+  EXPECT_EQ(Saetze().RecordCount(), 0);
+}
+
+TEST_P(Komponenten_Test, Lastschrift_steht_in_der_Tabelle) {
+  const QVariantList werte{0,
+                           false,
+                           QDate(2024, 6, 15),
+                           u"Jürgen Groß"_qs,
+                           u"123"_qs,
+                           u"Sparkasse"_qs,
+                           u"85050300"_qs,
+                           119.0,
+                           u"Rechnungsnr. R1"_qs,
+                           u"Rechnung vom 15.06.2024"_qs,
+                           u"Rechnung"_qs,
+                           u"R1"_qs};
+  const auto dta = Bereit(u"dta.common"_qs);
+  const QString erste = Host_Komponente_aufrufen(dta.get(), u"Buchung_speichern"_qs, werte).toString();
+  const QString zweite = Host_Komponente_aufrufen(dta.get(), u"Buchung_speichern"_qs, werte).toString();
+  EXPECT_NE(erste, zweite);
+  const db::Recordset rs =
+      Abfragen({"SELECT * FROM DTABookings WHERE BookingNumber = ", db::Zahl(zweite.toInt())});
+  EXPECT_EQ(rs.Text(u"AccountHolder"_qs), u"Jürgen Groß"_qs);
+  EXPECT_EQ(rs.Text(u"Purpose1"_qs), u"Rechnungsnr. R1"_qs);
+  EXPECT_EQ(rs.Number(u"Amount"_qs), 119.0);
+  EXPECT_EQ(rs.Text(u"DocumentNumber"_qs), u"R1"_qs);
+
+  EXPECT_FALSE(Host_Komponente_aufrufen(dta.get(), u"Buchung_speichern"_qs, {0}).isValid());
+  EXPECT_FALSE(Host_Komponente_aufrufen(dta.get(), u"Buchung_drucken"_qs, {}).isValid());
+  const auto fremd = Host_Komponente_erzeugen(u"dta.common"_qs);
+  EXPECT_FALSE(Host_Komponente_aufrufen(fremd.get(), u"Buchung_speichern"_qs, werte).isValid());
+  EXPECT_FALSE(
+      Host_Komponente_aufrufen(fremd.get(), u"Initialisierung"_qs, {u"Anderer"_qs, u"x"_qs}).toBool());
+  EXPECT_FALSE(Host_Komponente_aufrufen(fremd.get(), u"Buchung_speichern"_qs, werte).isValid());
+  EXPECT_EQ(Abfragen("SELECT * FROM DTABookings").RecordCount(), 2);
+  EXPECT_EQ(Host_Komponente_erzeugen(u"varda.common"_qs), nullptr);
+}
+
+TEST(Zahlungsbefehle_Test, Versandkosten_und_Posten) {
+  Launcher l;
+  l.Mandant_mit_Shop(0, 1);
+  const auto json = [&l](const QStringList &worte) {
+    const Ergebnis e = l.Starten(worte + QStringList{u"--json"_qs});
+    EXPECT_EQ(e.Ausgang, 0) << e.Fehler.toStdString();
+    return QJsonDocument::fromJson(e.Ausgabe.toUtf8()).object();
+  };
+  const QStringList post{u"versandkosten"_qs, u"Deutsche Post"_qs};
+  for (const QString &land : {u"DE"_qs, u"Deutschland"_qs}) {
+    const QJsonObject kosten = json(post + QStringList{land, u"5,01"_qs});
+    EXPECT_EQ(kosten[u"kosten"_qs].toDouble(), 5.8);
+    EXPECT_EQ(kosten[u"steuerschluessel"_qs].toString(), u"1"_qs);
+    EXPECT_EQ(kosten[u"land"_qs].toString(), land);
+    EXPECT_EQ(kosten[u"gewicht"_qs].toDouble(), 5.01);
+  }
+  const Ergebnis gefragt = l.Starten(QStringList{u"--antwort"_qs, u"Versandkosten=49,90"_qs} + post +
+                                     QStringList{u"DE"_qs, u"1200"_qs});
+  EXPECT_TRUE(gefragt.Ausgabe.contains(u"49,90 EUR"_qs));
+  EXPECT_TRUE(gefragt.Fehler.startsWith(u"[Versandkosten] Leider"_qs));
+  EXPECT_EQ(l.Starten(post + QStringList{u"DE"_qs, u"schwer"_qs}).Ausgang, 2);
+  EXPECT_EQ(l.Starten("versandkosten Kutsche DE 1").Ausgang, 1);
+
+  const QString mdb = l.Datei("Test.mdb");
+  sqlite3 *db = nullptr;
+  ASSERT_EQ(sqlite3_open(mdb.toUtf8().constData(), &db), SQLITE_OK);
+  EXPECT_EQ(sqlite3_exec(db,
+                         "INSERT INTO Invoice(InvoiceNumber,TotalAmount,Date) "
+                         "VALUES('R1',100,'2024-06-01 00:00:00'),('R2',80,'2024-06-01 00:00:00');"
+                         "INSERT INTO OpenItems(OpenItemNumber,document,DocumentNumber,Amount,OverdueFines,"
+                         "PaymentsReceived,OutstandingAmount,DuePayment) "
+                         "VALUES('OP-1','Rechnung','R1',100,5,42,60.5,'2024-06-15 00:00:00')",
+                         nullptr, nullptr, nullptr),
+            SQLITE_OK);
+  sqlite3_close(db);
+  const QJsonObject posten = json({u"posten"_qs, u"R1"_qs});
+  EXPECT_EQ(posten[u"posten"_qs].toString(), u"OP-1"_qs);
+  EXPECT_EQ(posten[u"offen"_qs].toDouble(), 60.5);
+  EXPECT_EQ(posten[u"skonto"_qs].toDouble(), 2.5) << "what makes the figures add up";
+  EXPECT_EQ(posten[u"faellig"_qs].toString(), u"2024-06-15"_qs);
+  EXPECT_EQ(json({u"posten"_qs, u"R2"_qs})[u"offen"_qs].toDouble(), 80.0);
+  EXPECT_TRUE(json({u"posten"_qs, u"R2"_qs})[u"posten"_qs].isNull());
+  EXPECT_EQ(l.Starten("posten R9").Ausgang, 1);
+  EXPECT_EQ(Launcher::Roh_lesen(mdb, "SELECT COUNT(*) FROM OpenItems"), QStringList{u"1"_qs});
+}
+
+}  // namespace
+}  // namespace marklink::test
