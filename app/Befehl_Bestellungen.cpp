@@ -4,6 +4,7 @@
 #include "Aufrufwerte.h"
 #include "Ausgabe.h"
 #include "Bestellausgabe.h"
+#include "Bestellauswahl.h"
 #include "Sitzung.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
@@ -40,21 +41,9 @@ void Json_ausgeben(const QJsonDocument &Dokument) {
   Ausgeben(QString::fromUtf8(Dokument.toJson()).trimmed());
 }
 
-int Unbekannte_Bestellung_melden(const QString &Nummer) {
-  Fehler_melden(QStringLiteral("Die Bestellung '%1' ist nicht vorhanden.").arg(Nummer));
+int Unbekannte_Bestellung(const QString &Nummer) {
+  Unbekannte_Bestellung_melden(Nummer);
   return Fehlgeschlagen;
-}
-
-/// Loads the list without a filter and stands on that order. False when it is not staged.
-bool Bestellung_waehlen(Auftragsliste &Liste, const QString &Nummer) {
-  Kontext.gViewablePeriod = 0;
-  Liste.Auftragsliste_laden();
-  for (int i = 0; i < Liste.Zeilenzahl(); ++i) {
-    if (Liste.Zelle(i, "OrderID").toString() != Nummer) continue;
-    Liste.AktuelleZeile_setzen(i);
-    return true;
-  }
-  return false;
 }
 
 /// Why order status arguments are no proper ones; empty when they are.
@@ -103,13 +92,16 @@ int Befehl_Bestellungen_zeigen(const Aufruf &A) {
   Auftragsliste liste;
   Auftragsstati_initialisieren(liste.lvwAuftragsstatus);
   const QString nummer = A.Argumente[0];
-  if (!Bestellung_waehlen(liste, nummer)) return Unbekannte_Bestellung_melden(nummer);
+  Alle_Bestellungen_laden(liste);
+  const int zeile = Bestellung_suchen(liste, nummer);
+  if (zeile < 0) return Unbekannte_Bestellung(nummer);
+  liste.AktuelleZeile_setzen(zeile);
   if (A.Gegeben("json")) {
     Json_ausgeben(QJsonDocument(Bestellanzeige_als_Json(liste)));
     return Erledigt;
   }
   const std::optional<Auftragsanzeige> anzeige = Auftrag_anzeigen(liste);
-  if (!anzeige) return Unbekannte_Bestellung_melden(nummer);
+  if (!anzeige) return Unbekannte_Bestellung(nummer);
   Ausgeben(Bestellung_als_Text(liste, *anzeige));
   return Erledigt;
 }
@@ -122,7 +114,7 @@ int Befehl_Bestellungen_status(const Aufruf &A) {
   }
   if (!Mandant_oeffnen(A) || !Datenbank_beschreibbar()) return Fehlgeschlagen;
   if (!Datensatz_existiert(QStringLiteral("WebshopOrdersXTC"), QStringLiteral("OrderID"), nummer))
-    return Unbekannte_Bestellung_melden(nummer);
+    return Unbekannte_Bestellung(nummer);
   const Shopsperre sperre;
   if (!sperre.Erhalten()) return Fehlgeschlagen;
   const auto schalter = [](bool an) { return an ? QStringLiteral("on") : QStringLiteral("off"); };
@@ -152,6 +144,17 @@ int Befehl_Bestellungen_status(const Aufruf &A) {
   dialoge().Meldung(QStringLiteral("Hinweis"),
                     {QStringLiteral("Der Status der Bestellung wurde erfolgreich geändert.")},
                     Symbol::Information);
+  return Erledigt;
+}
+
+int Befehl_Bestellungen_rechnung(const Aufruf &A) {
+  if (!Mandant_oeffnen(A)) return Fehlgeschlagen;
+  QString rechnungsnummer;
+  if (!Rechnung_zur_Bestellung(rechnungsnummer, A.Argumente[0])) {
+    Fehler_melden(QStringLiteral("Für diese Bestellung liegt noch keine Rechnung vor."));
+    return Fehlgeschlagen;
+  }
+  Ausgeben(Anzeigbar(rechnungsnummer));
   return Erledigt;
 }
 

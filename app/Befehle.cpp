@@ -11,6 +11,8 @@ const Optionsbeschreibung Typ{QStringLiteral("typ"), QStringLiteral("0|1"),
 const Optionsbeschreibung Stati{QStringLiteral("status"), QStringLiteral("1,3"),
                                 QStringLiteral("nur Bestellungen mit diesen Status-IDs")};
 const Optionsbeschreibung Json{QStringLiteral("json"), {}, QStringLiteral("Ausgabe als JSON")};
+const Optionsbeschreibung Alle{
+    QStringLiteral("alle"), {}, QStringLiteral("statt Nummern: alle Bestellungen")};
 
 std::vector<Befehl> Mandantenbefehle() {
   const QString gruppe = QStringLiteral("mandant");
@@ -85,11 +87,54 @@ std::vector<Befehl> Bestellbefehle() {
        QStringLiteral("ändert den Status einer Bestellung im Shop und in Varda"),
        &Befehl_Bestellungen_status},
       {gruppe,
+       QStringLiteral("rechnung"),
+       {{QStringLiteral("NR")}},
+       {},
+       QStringLiteral("zeigt die Nummer der Rechnung, die zu einer Bestellung erstellt wurde"),
+       &Befehl_Bestellungen_rechnung},
+      {gruppe,
        QStringLiteral("loeschen"),
        {},
        {},
        QStringLiteral("löscht alle abgerufenen Bestellungen in Varda, nach Rückfrage"),
        &Befehl_Bestellungen_loeschen},
+  };
+}
+
+Befehl Kundenbefehl() {
+  return {QStringLiteral("kunden"),
+          QStringLiteral("anlegen"),
+          {{QStringLiteral("NR"), {}, true}},
+          {Alle},
+          QStringLiteral("holt die Kunden der genannten oder aller Bestellungen aus dem Shop und legt sie in "
+                         "Varda an oder aktualisiert sie; ist ein Suchname vergeben, wird nach 'Suchname "
+                         "vergeben' gefragt"),
+          &Befehl_Kunden_anlegen};
+}
+
+std::vector<Befehl> Belegbefehle() {
+  const QString gruppe = QStringLiteral("belege");
+  const Argumentbeschreibung nummern{QStringLiteral("NR"), {}, true};
+  const std::vector<Optionsbeschreibung> optionen{
+      {QStringLiteral("alle"), {}, QStringLiteral("statt Nummern: alle Bestellungen, die noch keinen haben")},
+      {QStringLiteral("erneut"), {}, QStringLiteral("mit --alle: auch Bestellungen, die schon einen haben")}};
+  return {
+      {gruppe,
+       QStringLiteral("auftrag"),
+       {nummern},
+       optionen,
+       QStringLiteral("erstellt Aufträge aus Bestellungen und aktualisiert deren Kunden; Rückfragen: "
+                      "'Belegnummer', 'Artikel nicht vorhanden', 'Rückstellung bilden', 'Versandkosten', "
+                      "'Reservierungen', 'Suchname vergeben'"),
+       &Befehl_Belege_auftrag},
+      {gruppe,
+       QStringLiteral("rechnung"),
+       {nummern},
+       optionen,
+       QStringLiteral(
+           "erstellt Rechnungen aus Bestellungen und aktualisiert deren Kunden; Rückfragen wie bei "
+           "'belege auftrag', und 'DATEV: Buchungssätze bereits vorhanden'"),
+       &Befehl_Belege_rechnung},
   };
 }
 
@@ -140,6 +185,8 @@ std::vector<Befehl> Alle_Befehle() {
   std::vector<Befehl> alle = Mandantenbefehle();
   for (const auto &teil : {Einstellungsbefehle(), Bestellbefehle(), Zahlungs_und_Versandbefehle()})
     alle.insert(alle.end(), teil.begin(), teil.end());
+  alle.push_back(Kundenbefehl());
+  for (const Befehl &befehl : Belegbefehle()) alle.push_back(befehl);
   alle.push_back(Lagerbefehl());
   alle.push_back(Nummernbefehl());
   alle.push_back({QStringLiteral("preis"),
@@ -170,6 +217,8 @@ const std::vector<Befehlsgruppe> &Befehlsgruppen() {
       {QStringLiteral("mandant"), QStringLiteral("Mandanten anlegen")},
       {QStringLiteral("einstellung"), QStringLiteral("Einstellungen des Mandanten lesen und ändern")},
       {QStringLiteral("bestellungen"), QStringLiteral("Bestellungen abrufen, zeigen und fortschreiben")},
+      {QStringLiteral("kunden"), QStringLiteral("Kunden der Bestellungen anlegen")},
+      {QStringLiteral("belege"), QStringLiteral("Aufträge und Rechnungen aus Bestellungen erstellen")},
       {QStringLiteral("lager"), QStringLiteral("Bestand prüfen")},
       {QStringLiteral("nummer"), QStringLiteral("die nächste Nummer eines Nummernkreises zeigen")},
       {QStringLiteral("posten"), QStringLiteral("den offenen Posten einer Rechnung zeigen")},

@@ -18,12 +18,13 @@ struct Optionsbeschreibung {
 struct Argumentbeschreibung {
   QString Name;
   QStringList Auswahl{};  ///< words for the shell's completion; empty: anything
+  bool Beliebig = false;  ///< none or any number of it; for the last argument only
 };
 
 struct Befehl {
   QString Gruppe;
   QString Unterbefehl;                          ///< empty: the group is the command
-  std::vector<Argumentbeschreibung> Argumente;  ///< all of them are needed
+  std::vector<Argumentbeschreibung> Argumente;  ///< all of them are needed, but for any number of one
   std::vector<Optionsbeschreibung> Optionen;
   QString Hilfe;
   int (*Ausfuehren)(const Aufruf &);  ///< gives the exit status
@@ -55,7 +56,11 @@ int Befehl_Bestellungen_abrufen(const Aufruf &A);
 int Befehl_Bestellungen_liste(const Aufruf &A);
 int Befehl_Bestellungen_zeigen(const Aufruf &A);
 int Befehl_Bestellungen_status(const Aufruf &A);
+int Befehl_Bestellungen_rechnung(const Aufruf &A);
 int Befehl_Bestellungen_loeschen(const Aufruf &A);
+int Befehl_Kunden_anlegen(const Aufruf &A);
+int Befehl_Belege_auftrag(const Aufruf &A);
+int Befehl_Belege_rechnung(const Aufruf &A);
 int Befehl_Lager_zuteilen(const Aufruf &A);
 int Befehl_Nummer(const Aufruf &A);
 int Befehl_Posten(const Aufruf &A);

@@ -113,10 +113,12 @@ const Befehl *Befehl_nehmen(QStringList &Worte, QStringList &Thema, QString &Feh
 }
 
 QString Argumente_pruefen(const Befehl &B, const QStringList &Worte) {
-  const auto noetig = qsizetype(B.Argumente.size());
+  const bool beliebig = !B.Argumente.empty() && B.Argumente.back().Beliebig;
+  const auto noetig = qsizetype(B.Argumente.size()) - (beliebig ? 1 : 0);
   if (Worte.size() < noetig)
     return QStringLiteral("Es fehlt das Argument %1.").arg(B.Argumente[size_t(Worte.size())].Name);
-  if (Worte.size() > noetig) return QStringLiteral("Das Argument '%1' ist zu viel.").arg(Worte[noetig]);
+  if (!beliebig && Worte.size() > noetig)
+    return QStringLiteral("Das Argument '%1' ist zu viel.").arg(Worte[noetig]);
   return {};
 }
 

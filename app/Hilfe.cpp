@@ -17,8 +17,13 @@ QString Optionsform(const Optionsbeschreibung &O) {
 QString Befehlsform(const Befehl &B) {
   QStringList teile{B.Gruppe};
   if (!B.Unterbefehl.isEmpty()) teile << B.Unterbefehl;
-  for (const Argumentbeschreibung &a : B.Argumente) teile << a.Name;
-  for (const Optionsbeschreibung &o : B.Optionen) teile << u'[' + Optionsform(o) + u']';
+  bool statt_nummern = false;  // --alle stands in the place of the numbers
+  for (const Argumentbeschreibung &a : B.Argumente) {
+    statt_nummern |= a.Beliebig;
+    teile << (a.Beliebig ? QStringLiteral("(--alle | %1...)").arg(a.Name) : a.Name);
+  }
+  for (const Optionsbeschreibung &o : B.Optionen)
+    if (!statt_nummern || o.Name != QLatin1String("alle")) teile << u'[' + Optionsform(o) + u']';
   return teile.join(u' ');
 }
 

@@ -2,6 +2,7 @@
 #include "Sitzung.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <memory>
 
@@ -112,6 +113,13 @@ Shopsperre::Shopsperre() : Sperre_(Kontext.gProgrammpfad + QStringLiteral(".shop
 }
 
 bool Datenbank_beschreibbar() {
+  // The settings hold the counters: without them every record would get the number of the last one.
+  if (!Kontext.gAfkDatei.isEmpty() && QFileInfo::exists(Kontext.gAfkDatei) &&
+      !QFileInfo(Kontext.gAfkDatei).isWritable()) {
+    Fehler_melden(QStringLiteral("Die Einstellungen des Mandanten '%1' sind schreibgeschützt: %2")
+                      .arg(Kontext.gFirmenname, Kontext.gAfkDatei));
+    return false;
+  }
   // A statement that meets no row still needs the right to write.
   if (Ausfuehren("DELETE FROM WebshopOrdersXTC WHERE OrderID = '' AND OrderID = '0'")) return true;
   Fehler_melden(

@@ -34,7 +34,7 @@ class Shopsperre {
   bool Erhalten_;
 };
 
-/// Whether the client's database takes changes just now; if not, that is told on standard error.
+/// Whether the client's database and settings take changes just now; if not, that is told on standard error.
 bool Datenbank_beschreibbar();
 
 }  // namespace marklink

@@ -48,12 +48,12 @@ class Anschluesse {
 int Befehl_ausfuehren(const Aufruf &A) {
   const Anschluesse anschluesse(A);
   const int ausgang = A.Was->Ausfuehren(A);
-  if (ausgang != Erledigt) return ausgang;
+  if (ausgang == Falscher_Aufruf) return ausgang;
   if (Unterbrochen()) {
     Fehler_melden(QStringLiteral("Abgebrochen; was bis dahin getan war, bleibt."));
     return Fehlgeschlagen;
   }
-  return anschluesse.Fehler_gezeigt() ? Fehlgeschlagen : Erledigt;
+  return ausgang != Erledigt || anschluesse.Fehler_gezeigt() ? Fehlgeschlagen : Erledigt;
 }
 
 int Falschen_Aufruf_melden(const Befehlszeile &Zeile) {

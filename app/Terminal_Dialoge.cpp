@@ -2,9 +2,16 @@
 #include "Terminal_Dialoge.h"
 
 #include "Ausgabe.h"
+#include "ui/Fortschritt.h"
 
 namespace marklink {
 namespace {
+
+/// Not behind the bar of a run.
+void Zeigen(const QString &Text) {
+  const Fortschritt_verdeckt verdeckt;
+  Melden(Text);
+}
 
 QString Schluessel(const QString &Titel) { return Titel.trimmed().toLower(); }
 
@@ -59,7 +66,7 @@ QString Terminal_Dialoge::Naechste_Antwort(const QString &Titel) {
 
 Antwort Terminal_Dialoge::Meldung(const QString &Titel, const QStringList &Zeilen, Symbol /*S*/, Knoepfe K,
                                   Antwort /*Vorgabe*/) {
-  Melden(QStringLiteral("[%1] ").arg(Titel) + Zeilen.join(u'\n'));
+  Zeigen(QStringLiteral("[%1] ").arg(Titel) + Zeilen.join(u'\n'));
   if (Titel == QLatin1String("Fehler")) Fehler_gezeigt_ = true;
   if (K == Knoepfe::OK) return Antwort::OK;
   const QString text = Naechste_Antwort(Titel);
@@ -70,14 +77,15 @@ Antwort Terminal_Dialoge::Meldung(const QString &Titel, const QStringList &Zeile
   return Schonendste(K);
 }
 
-QString Terminal_Dialoge::Eingabe(const QString &Titel, const QString &Text, const QString & /*Vorgabe*/) {
-  Melden(QStringLiteral("[%1] ").arg(Titel) + Text);
+QString Terminal_Dialoge::Eingabe(const QString &Titel, const QString &Text, const QString &Vorgabe) {
+  const QString vorschlag = Vorgabe.isEmpty() ? QString() : QStringLiteral(" (Vorschlag: %1)").arg(Vorgabe);
+  Zeigen(QStringLiteral("[%1] ").arg(Titel) + Text + vorschlag);
   return Naechste_Antwort(Titel);
 }
 
 QString Terminal_Dialoge::Datei_oeffnen(const QString &Titel, const QString & /*Filter*/,
                                         const QString & /*Ordner*/) {
-  Melden(QStringLiteral("[%1]").arg(Titel));
+  Zeigen(QStringLiteral("[%1]").arg(Titel));
   return Naechste_Antwort(Titel);
 }
 

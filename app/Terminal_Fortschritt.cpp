@@ -71,6 +71,13 @@ void Terminal_Fortschritt::Wert(int Wert) {
 
 void Terminal_Fortschritt::Verbergen() { Loeschen(); }
 
+void Terminal_Fortschritt::Ausblenden() { Loeschen(); }
+
+void Terminal_Fortschritt::Einblenden() {
+  Sichtbar_ = true;
+  Zeichnen(true);
+}
+
 void Terminal_Fortschritt::Loeschen() {
   if (Terminal_ && Sichtbar_) Schreiben(QStringLiteral("\r\x1b[K"));
   Sichtbar_ = false;

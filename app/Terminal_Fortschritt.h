@@ -16,6 +16,9 @@ class Terminal_Fortschritt : public Fortschritt {
   void Text(const QString &Zeile) override;
   void Wert(int Wert) override;
   void Verbergen() override;
+  bool Offen() const override { return Sichtbar_; }
+  void Ausblenden() override;
+  void Einblenden() override;
 
  protected:
   /// Ctrl-C holds for the whole command, so it stops this run as well.

@@ -22,7 +22,7 @@ bool Recordset::Open(const Anweisung &Sql, const QString &Verbindung) {
   d->Verbindung = Verbindung;
   d->Filter.reset();
   d->Geoeffnet = d->oeffnen();
-  if (!d->Geoeffnet) d->Spalten = std::make_shared<Spaltensatz>();
+  if (!d->Geoeffnet) d->Spalten = Keine_Spalten();
   return d->Geoeffnet;
 }
 
@@ -198,6 +198,10 @@ void Recordset::CancelUpdate() { d->Arbeit_verwerfen(); }
 void Recordset::Delete() { d->Loeschen(); }
 bool Recordset::UpdateBatch() { return d->Stapel_senden(); }
 bool Recordset::HasPendingChanges() const { return d->In_Arbeit || !d->Offene.empty(); }
+bool Recordset::IsPending() const {
+  const Zeile *zeile = d->Aktuelle();
+  return zeile && (d->In_Arbeit || zeile->Offen);
+}
 
 bool Ausfuehren(const Anweisung &Sql, const QString &Verbindung) {
   Leihe leihe(Verbindung);

@@ -88,6 +88,8 @@ class Recordset {
   /// the set is not open. Auto-numbered fields of new rows hold their number afterwards.
   bool UpdateBatch();
   bool HasPendingChanges() const;
+  /// Whether the current row has changes that no batch has taken yet.
+  bool IsPending() const;
 
  private:
   struct Daten;

@@ -57,6 +57,12 @@ class Stapeltexte {
   QByteArray Text_;
 };
 
+/// What a set without columns has.
+inline const std::shared_ptr<const Spaltensatz> &Keine_Spalten() {
+  static const auto keine = std::make_shared<const Spaltensatz>();
+  return keine;
+}
+
 /// Whether the statement begins like a plain SELECT on a whole table; only then it is worth describing.
 bool ganze_Tabelle_moeglich(const Anweisung &Sql);
 
@@ -65,7 +71,7 @@ struct Recordset::Daten {
   QString Verbindung;
   Dialekt Mundart = Dialekt::Jet;
   bool Geoeffnet = false;
-  std::shared_ptr<const Spaltensatz> Spalten = std::make_shared<Spaltensatz>();
+  std::shared_ptr<const Spaltensatz> Spalten = Keine_Spalten();
 
   bool Gelesen = true;
   std::list<Speicher> Lager;  ///< cells of the rows read; the last one takes the look-ups

@@ -52,7 +52,7 @@ void Recordset::Daten::schliessen() {
   }
   leeren();
   Filter.reset();
-  Spalten = std::make_shared<Spaltensatz>();
+  Spalten = Keine_Spalten();
   Gelesen = true;
   Sicht_gilt = true;
   Geoeffnet = false;
@@ -77,10 +77,10 @@ bool Recordset::Daten::oeffnen() {
   Ergebnis ergebnis;
   const bool gelesen = leihe.Lesen(Sql, ergebnis);
   if (!gelesen) {
-    Spalten = std::make_shared<Spaltensatz>();
+    Spalten = Keine_Spalten();
     return false;
   }
-  Spalten = ergebnis.Spalten ? ergebnis.Spalten : std::make_shared<Spaltensatz>();
+  Spalten = ergebnis.Spalten ? ergebnis.Spalten : Keine_Spalten();
   Zeilen_uebernehmen(ergebnis);
   Lager.push_back(std::move(ergebnis.Lager));
   Sicht_bauen();

@@ -34,10 +34,13 @@ class Stapel {
     qint64 Wert;
   };
   const std::vector<Nummer> &Nummern() const { return Nummern_; }
+  /// Whether the transaction was begun: a row that is sent first does it, and one as it was sends nothing.
+  bool Begonnen() const { return Begonnen_; }
   /// How many tables of a joined set took the last changed row before one did not.
   int Tabellen_geschrieben() const { return Tabellen_geschrieben_; }
 
  private:
+  Schreibstand schreiben(const QByteArray &Sql, const char *Was, int Tabelle);
   Schreibstand einfuegen(const Zeile &Z);
   Schreibstand aendern(const Zeile &Z);
   Schreibstand Tabelle_aendern(const Zeile &Z, int Tabelle);
@@ -57,7 +60,14 @@ class Stapel {
   std::vector<int> Geprueft_;  ///< whose former values it asks for
   std::vector<Nummer> Nummern_;
   int Tabellen_geschrieben_ = 0;
+  bool Begonnen_ = false;
 };
+
+Schreibstand Stapel::schreiben(const QByteArray &Sql, const char *Was, int Tabelle) {
+  if (!Begonnen_ && !L_.Beginnen()) return Schreibstand::Abgebrochen;
+  Begonnen_ = true;
+  return L_.Schreiben(Sql, Werte_, Was, Tabelle_von(Tabelle).Name);
+}
 
 QByteArray Stapel::Einfuegetext(int Tabelle) const {
   QByteArray spalten, marken;
@@ -84,7 +94,7 @@ Schreibstand Stapel::einfuegen(const Zeile &Z) {
   }
   if (tabelle < 0) return Schreibstand::Abgelehnt;
   const QByteArray &sql = Texte_.Text('I', tabelle, Felder_, {}, [&] { return Einfuegetext(tabelle); });
-  const Schreibstand stand = L_.Schreiben(sql, Werte_, "INSERT INTO ", Tabelle_von(tabelle).Name);
+  const Schreibstand stand = schreiben(sql, "INSERT INTO ", tabelle);
   if (stand != Schreibstand::Geschrieben) return stand;
   const qint64 nummer = L_.Letzte_Nummer();
   for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
@@ -145,7 +155,7 @@ Schreibstand Stapel::Tabelle_aendern(const Zeile &Z, int Tabelle) {
   }
   Bedingung_Werte(Z, Tabelle);
   for (const int i : Geprueft_) Werte_.push_back(Z.Basis[i]);
-  return L_.Schreiben(sql, Werte_, "UPDATE ", Tabelle_von(Tabelle).Name);
+  return schreiben(sql, "UPDATE ", Tabelle);
 }
 
 Schreibstand Stapel::aendern(const Zeile &Z) {
@@ -164,7 +174,7 @@ Schreibstand Stapel::loeschen(const Zeile &Z) {
   if (!Bedingung(0, sql)) return Schreibstand::Abgelehnt;
   Werte_.clear();
   Bedingung_Werte(Z, 0);
-  return L_.Schreiben(sql, Werte_, "DELETE FROM ", Tabelle_von(0).Name);
+  return schreiben(sql, "DELETE FROM ", 0);
 }
 
 }  // namespace
@@ -177,19 +187,19 @@ bool Recordset::Daten::Stapel_senden() {
   std::vector<std::pair<int, int>> halbe;  // rows of a joined set that only some tables took
   {
     Leihe leihe(Verbindung);
-    if (!leihe.Beginnen()) return false;
+    if (!leihe) return false;
     Stapel stapel(leihe, *Spalten, Texte);
     for (const int i : Offene) {
       const Schreibstand stand = stapel.senden(Zeilen[static_cast<std::size_t>(i)]);
       if (stand == Schreibstand::Abgebrochen) {
-        leihe.Verwerfen();
+        if (stapel.Begonnen()) leihe.Verwerfen();
         return false;
       }
       (stand == Schreibstand::Geschrieben ? geschrieben : bleiben).push_back(i);
       const int tabellen = stapel.Tabellen_geschrieben();
       if (stand != Schreibstand::Geschrieben && tabellen > 0) halbe.emplace_back(i, tabellen);
     }
-    if (!leihe.Abschliessen()) {
+    if (stapel.Begonnen() && !leihe.Abschliessen()) {
       leihe.Verwerfen();
       return false;
     }

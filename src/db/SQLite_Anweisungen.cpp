@@ -109,7 +109,7 @@ std::shared_ptr<Vorbereitet> SQLite_Anweisungen::uebersetzt_vorbereiten(const Ue
 std::shared_ptr<Vorbereitet> SQLite_Anweisungen::Dialekttext(const Anweisung &Sql) {
   const QString schluessel = Vorratsschluessel(Sql);
   if (!schluessel.isEmpty()) {
-    if (const auto fertig = Nach_Text_.value(schluessel)) {
+    if (auto fertig = Nach_Text_.value(schluessel)) {
       fertig->Zuletzt = ++Uhr_;
       return fertig;
     }
@@ -119,7 +119,7 @@ std::shared_ptr<Vorbereitet> SQLite_Anweisungen::Dialekttext(const Anweisung &Sq
     Fehler_ = QStringLiteral("not one statement of this dialect");
     return nullptr;
   }
-  const auto v = uebersetzt_vorbereiten(*uebersetzung);
+  auto v = uebersetzt_vorbereiten(*uebersetzung);
   if (v && !schluessel.isEmpty() && uebersetzung->Wiederverwendbar &&
       v->Herkunft.size() <= Werte_hoechstens) {
     Platz_schaffen(Nach_Text_);
@@ -130,7 +130,7 @@ std::shared_ptr<Vorbereitet> SQLite_Anweisungen::Dialekttext(const Anweisung &Sq
 }
 
 std::shared_ptr<Vorbereitet> SQLite_Anweisungen::Eigener_Text(const QByteArray &Sql) {
-  if (const auto fertig = Eigene_.value(Sql)) {
+  if (auto fertig = Eigene_.value(Sql)) {
     fertig->Zuletzt = ++Uhr_;
     return fertig;
   }

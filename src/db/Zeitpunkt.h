@@ -3,9 +3,13 @@
 #pragma once
 
 #include <QDateTime>
+#include <QVariant>
 
 namespace marklink {
 
 inline QDateTime Zeitpunkt(QDate Tag, QTime Zeit = QTime(0, 0)) { return QDateTime(Tag, Zeit, Qt::UTC); }
+
+/// A day as a field's value; no day is null.
+inline QVariant Tageswert(QDate Tag) { return Tag.isValid() ? QVariant(Zeitpunkt(Tag)) : QVariant(); }
 
 }  // namespace marklink

@@ -27,6 +27,8 @@ void Optionen_laden();
 void Optionen_freigeben();
 /// A setting of the client; empty when missing. Type 0 cuts at 255 characters.
 QString Option_lesen(const QString &Abschnitt, const QString &Schluessel);
+/// A setting of the section "Program".
+QString Programmoption(const char *Schluessel);
 /// Writes through at once. False when it could not be stored.
 bool Option_schreiben(const QString &Abschnitt, const QString &Schluessel, const QString &Wert);
 

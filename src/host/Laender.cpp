@@ -33,7 +33,7 @@ bool Land_ist_EU(const QString &Land) { return Land_lesen(Land, "EU").Flag(QStri
 double Land_Versandfreigrenze(const QString &Land) {
   const db::Recordset rs = Land_lesen(Land, "FreeShippingAmount");
   if (rs.RecordCount() > 0) return rs.Number(QStringLiteral("FreeShippingAmount"));
-  const QString einstellung = Option_lesen(QStringLiteral("Program"), QStringLiteral("FreeShippingAmount"));
+  const QString einstellung = Programmoption("FreeShippingAmount");
   return Zahl_deutsch(einstellung).value_or(0.0);
 }
 

@@ -35,6 +35,10 @@ QString Option_lesen(const QString &Abschnitt, const QString &Schluessel) {
   return gOptions_Recordset.Text(QStringLiteral("Value"));
 }
 
+QString Programmoption(const char *Schluessel) {
+  return Option_lesen(QStringLiteral("Program"), QLatin1String(Schluessel));
+}
+
 bool Option_schreiben(const QString &Abschnitt, const QString &Schluessel, const QString &Wert) {
   if (Kontext.gDatabasetype == 0) return Ini_schreiben(Kontext.gAfkDatei, Abschnitt, Schluessel, Wert);
   if (!Einstellung_suchen(Abschnitt, Schluessel)) return false;

@@ -173,6 +173,10 @@ QString Zahl_formatieren(double Zahl, const QString &Bild) {
   return text + b.Danach;
 }
 
+double Zahl_durch_Bild(double Zahl, const QString &Bild) {
+  return Zahl_deutsch(Zahl_formatieren(Zahl, Bild)).value_or(Zahl);
+}
+
 qint16 Als_Kurzzahl(const QString &Text) {
   const double wert = Setzwert(Text);
   return wert >= -32768 && wert <= 32767 ? qint16(wert) : qint16(0);

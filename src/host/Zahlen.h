@@ -21,6 +21,9 @@ QString Zahl_als_Text(double Zahl);
 /// "0 %" is not known. Empty picture: Zahl_als_Text. Rounds half away from zero on the decimal value.
 QString Zahl_formatieren(double Zahl, const QString &Bild);
 
+/// The number that is left when it is shown by a picture and read back: cut to the picture's decimals.
+double Zahl_durch_Bild(double Zahl, const QString &Bild);
+
 /// 16-bit and 32-bit readings of a setting: empty, no number or out of range gives 0; fractions are rounded
 /// half to even, as the settings have always been read.
 qint16 Als_Kurzzahl(const QString &Text);

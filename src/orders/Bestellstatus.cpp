@@ -1,6 +1,7 @@
 // Order status feedback.
 #include "Bestellstatus.h"
 
+#include "Stapellauf.h"
 #include "db/Ablaufverfolgung.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
@@ -8,8 +9,6 @@
 #include "shop/Aktionen.h"
 #include "shop/Antwort.h"
 #include "shop/Url_kodieren.h"
-#include "ui/Dialoge.h"
-#include "ui/Fortschritt.h"
 
 namespace marklink {
 
@@ -68,29 +67,18 @@ QString Positionen_der_Bestellung(const QString &Bestellnummer) {
 }
 
 void Status_setzen(Auftragsliste &Liste, const QString &Status) {
-  const int anzahl = Liste.Auswahl_zaehlen();
-  if (anzahl == 0) {
-    dialoge().Meldung(
-        QStringLiteral("Hinweis"),
-        {QStringLiteral("Es wurden keine Aufträge ausgewählt. "),
-         QStringLiteral("Markieren Sie bitte alle Aufträge, für die Sie den Status ändern möchten.")},
-        Symbol::Information);
-    return;
-  }
-  const QString aus = QStringLiteral("off");
-  fortschritt().ProgressAnzeigen(QStringLiteral("Vorgang wird bearbeitet. Einen Moment bitte..."), anzahl);
-  Kontext.gLaeuft = true;
-  int erledigt = 0;
-  for (int zeile = 0; zeile < Liste.Zeilenzahl() && !Kontext.gAbbrechen; ++zeile) {
-    if (!Liste.Markiert(zeile)) continue;
-    const QString nummer = Liste.Zelle(zeile, "OrderID").toString();
+  Stapellauf lauf;
+  lauf.Ohne_Auswahl = {
+      QStringLiteral("Es wurden keine Aufträge ausgewählt. "),
+      QStringLiteral("Markieren Sie bitte alle Aufträge, für die Sie den Status ändern möchten.")};
+  lauf.Bild = Symbol::Information;
+  lauf.Immer_laden = true;
+  lauf.Arbeit = [&](int zeile) {
+    const QString nummer = Liste.Zelle(zeile, "OrderID").toString(), aus = QStringLiteral("off");
     Bestellstatus_uebertragen(nummer, Status, aus, aus, QString());
     Bestellstatus_speichern(nummer, Status);  // whatever the shop answered, on purpose
-    fortschritt().Wert(++erledigt);
-  }
-  fortschritt().Verbergen();
-  Kontext.gLaeuft = false;
-  Liste.Auftragsliste_laden();
+  };
+  Markierte_abarbeiten(Liste, lauf);
 }
 
 }  // namespace marklink

@@ -21,10 +21,6 @@ struct Positionsfelder {
   QString Gesamtpreis, Einzelpreis;
 };
 
-QString Programmoption(const char *Schluessel) {
-  return Option_lesen(QStringLiteral("Program"), QLatin1String(Schluessel));
-}
-
 double Betragsoption(const char *Schluessel) {
   return Zahl_deutsch(Programmoption(Schluessel)).value_or(0.0);
 }
@@ -100,7 +96,7 @@ bool Betraege_abschliessen(Belegsumme &S) {
   for (double *betrag : {&S.Netto, &S.Steuer, &S.Brutto, &S.Positionsrabatt, &S.Belegrabatt, &S.Freibetrag,
                          &S.Zwischensumme, &S.Versandkosten}) {
     if (!(std::fabs(*betrag) < SUMMENGRENZE)) return false;
-    *betrag = Zahl_deutsch(Zahl_formatieren(*betrag, QStringLiteral("standard"))).value_or(*betrag);
+    *betrag = Zahl_durch_Bild(*betrag, QStringLiteral("standard"));
   }
   return true;
 }
@@ -111,8 +107,11 @@ bool Beleg_summieren(Belegsumme &Summe, const Belegangaben &Beleg) {
   Belegsumme s;
   db::Recordset positionen = Abfragen({"SELECT * FROM Positions WHERE Document = ", db::Wert{Beleg.Belegwort},
                                        " AND DocumentNumber = ", db::Wert{Beleg.Belegnummer}});
-  for (const QString &schluessel : Steuerschluessel_Liste().split(u';', Qt::SkipEmptyParts))
-    Steuerschluessel_summieren(s, Beleg, positionen, schluessel);
+  // An empty key among the others is a key too; an empty list holds none.
+  const QString liste = Steuerschluessel_Liste();
+  if (!positionen.IsOpen() || liste.isNull()) return false;
+  const QStringList alle = liste.isEmpty() ? QStringList() : liste.split(u';');
+  for (const QString &schluessel : alle) Steuerschluessel_summieren(s, Beleg, positionen, schluessel);
   if (Beleg.Taxation == 0) s.Brutto = s.Netto + s.Steuer;
   if (Beleg.Taxation == 1) s.Netto = s.Brutto - s.Steuer;
   s.Belegrabatt += s.Freibetrag;
@@ -126,9 +125,12 @@ bool Beleg_summieren(Belegsumme &Summe, const Belegangaben &Beleg) {
   return true;
 }
 
+double Zahlbetrag_runden(double Betrag) {
+  return Programmoption("RoundingSFr") == QLatin1String("1") ? Runden_5_Rappen(Betrag) : Runden(Betrag, 2);
+}
+
 double Endbetrag_ermitteln(const Belegsumme &Summe) {
-  const double betrag = Summe.Brutto - Summe.Freibetrag;
-  return Programmoption("RoundingSFr") == QLatin1String("1") ? Runden_5_Rappen(betrag) : Runden(betrag, 2);
+  return Zahlbetrag_runden(Summe.Brutto - Summe.Freibetrag);
 }
 
 }  // namespace marklink

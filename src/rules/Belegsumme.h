@@ -34,10 +34,13 @@ struct Belegsumme {
 };
 
 /// The user may be asked for the shipping costs, see Versandkosten_Staffel(). False, and `Summe` as it was,
-/// when an amount is beyond all bounds (7.9e26).
+/// when positions or tax keys cannot be read, or an amount is beyond all bounds (7.9e26).
 bool Beleg_summieren(Belegsumme &Summe, const Belegangaben &Beleg);
 
-/// What is to be paid: Brutto less Freibetrag, to a twentieth with the setting Program/RoundingSFr.
+/// An amount to be paid: to a twentieth with the setting Program/RoundingSFr, else two digits.
+double Zahlbetrag_runden(double Betrag);
+
+/// What is to be paid: Brutto less Freibetrag, rounded so.
 double Endbetrag_ermitteln(const Belegsumme &Summe);
 
 }  // namespace marklink

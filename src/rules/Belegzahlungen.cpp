@@ -73,10 +73,9 @@ double Skonto_Betrag(double Betrag, const QString &Bedingung, const QString &Ver
   QString schluessel;
   Versandkosten_lesen(kosten, schluessel, gewicht, Versandart);
   // "0" grants no cash discount on shipping.
-  const bool ohne_Versand =
-      Option_lesen(QStringLiteral("Program"), QStringLiteral("DiscountCalculation")) == QLatin1String("0");
+  const bool ohne_Versand = Programmoption("DiscountCalculation") == QLatin1String("0");
   const double basis = ohne_Versand ? Betrag - Netto_zu_Brutto(kosten, schluessel) : Betrag;
-  return Zahl_deutsch(Zahl_formatieren(basis / 100 * prozent, QStringLiteral("standard"))).value_or(0.0);
+  return Zahl_durch_Bild(basis / 100 * prozent, QStringLiteral("standard"));
 }
 
 bool Skonto_Frist_laeuft(const QString &Rechnungsnummer, const QDate &Tag) {

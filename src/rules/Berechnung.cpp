@@ -1,7 +1,8 @@
-// Taxes: rates, net and gross, tax keys, due dates.
+// Taxes: rates, net and gross, tax keys; a document's taxation and due date.
 #include "Berechnung.h"
 
 #include "host/Datenbank.h"
+#include "host/Zahlen.h"
 
 namespace marklink {
 namespace {
@@ -56,18 +57,26 @@ QString Steuerfeld_Kunde(int TaxCalculation) {
 QString Steuerschluessel_Liste() {
   QStringList schluessel, gesehen;
   // All columns: of the keys alone an engine may give its index, which has an order of its own.
-  for (db::Recordset rs = Abfragen("SELECT * FROM Taxes"); !rs.IsEOF(); rs.MoveNext()) {
+  db::Recordset rs = Abfragen("SELECT * FROM Taxes");
+  if (!rs.IsOpen()) return {};
+  for (; !rs.IsEOF(); rs.MoveNext()) {
     const QString neu = rs.Text(QStringLiteral("TaxKeyNumber"));
     if (gesehen.contains(neu.trimmed())) continue;
     gesehen << neu.trimmed();
     schluessel << neu;
   }
-  return schluessel.join(u';');
+  const QString liste = schluessel.join(u';');
+  return liste.isNull() ? QStringLiteral("") : liste;
 }
 
 QString Steuerschluessel_aus_Prozent(double Prozent) {
   return Abfragen({"SELECT * FROM Taxes WHERE Percentage = ", db::Zahl(Prozent)})
       .Text(QStringLiteral("TaxKeyNumber"));
+}
+
+int Besteuerung_ermitteln(int TaxCalculation) {
+  if (TaxCalculation == 1 || TaxCalculation == 3) return 0;
+  return Als_Kurzzahl(Programmoption("Taxation"));
 }
 
 QDate Zahlungsziel_ermitteln(const QString &Zahlungsbedingung, const QDate &Datum) {

@@ -37,12 +37,16 @@ QVariant Steuerfeld_lesen(const QString &Steuerschluessel, const QString &Feld);
 /// The field of Taxes that turns an article's tax key into that of a customer, by Contacts.TaxCalculation:
 /// 0 domestic, 1 EU with VAT id, 2 EU without, 3 outside the EU. Empty for any other value.
 QString Steuerfeld_Kunde(int TaxCalculation);
-/// All tax keys in table order, each once, joined by ";".
+/// All tax keys in table order, each once, joined by ";". A null text when they cannot be read.
 QString Steuerschluessel_Liste();
 /// The first tax key of that rate; empty when there is none.
 QString Steuerschluessel_aus_Prozent(double Prozent);
 
 // --- documents --------------------------------------------------------------------------------------------
+
+/// A document's Taxation, by Contacts.TaxCalculation of its customer: 0 (net) for 1 and 3, whatever is set;
+/// for any other the setting Program/Taxation as it stands: 0 net, 1 gross. A setting that is no number is 0.
+int Besteuerung_ermitteln(int TaxCalculation);
 
 /// Due date: `Datum` plus the days of the payment terms. Unknown terms, or terms without days: no date.
 QDate Zahlungsziel_ermitteln(const QString &Zahlungsbedingung, const QDate &Datum);

@@ -3,8 +3,9 @@
 //
 // A lot is one row of Warehouse, known by its StockingNumber. What a line takes from which lots stands in
 // Positions.StorageNumber as one text, the allocation list (Zuteilungsliste.h). Stock rows are read, changed
-// in memory and written as a batch without a lock: of two workstations that book the same lot at once only
-// one gets its figures into that lot, and the other is told by the result. No step takes an earlier one back.
+// in memory and written without a lock, each lot by itself. A lot that another workstation changed at that
+// very moment is read and booked once more; one that cannot be booked is left out, together with what depends
+// on it, and the result tells. No step takes an earlier one back.
 #pragma once
 
 #include <QString>
@@ -40,13 +41,15 @@ void Lager_Aufteilung(QString &Zuteilung, const QString &Artikel, const QString 
 enum Reservierungsmodus { Reservierungen_aufloesen = 0, Reservierungen_anlegen = 1 };
 
 /// Reserves what the document's lines were allocated, or gives all its reservations back to stock. True when
-/// everything was reserved (given back) and stored. A lot that cannot be read or is gone from stock is left
-/// out, without a reservation. A reservation whose lot is gone is given up with a message.
+/// everything was reserved (given back) and stored. A lot that cannot be read or booked, or is gone from
+/// stock, is left out, without a reservation. A reservation whose quantity could not be given back stays; one
+/// whose lot is gone is given up with a message.
 bool Reservierungen_erzeugen(const QString &Beleg, const QString &Belegnummer, const QString &Mitarbeiter,
                              int Modus, bool Reservierungsart);
 
-/// Takes the document's reservations out of stock and marks its lines and its head as dispatched. The
-/// reservations stay in the books; a second call takes them out once more.
+/// Takes the document's reservations out of stock and marks its lines and its head as dispatched; a line of
+/// which a lot could not be booked, and the head when none could, stay unmarked. The reservations stay in the
+/// books; a second call takes them out once more.
 void Reservierungen_buchen(const QString &Beleg, const QString &Belegnummer, const QString &Mitarbeiter);
 
 /// Marks a document's head as dispatched today.

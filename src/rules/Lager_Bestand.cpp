@@ -40,31 +40,36 @@ db::Recordset Positionen_lesen(const QString &Beleg, const QString &Belegnummer)
 }
 
 void Artikelbestand_aktualisieren(const QString &Beleg, const QString &Belegnummer, const QString &Lager) {
-  db::Recordset artikel = Abfragen("SELECT * FROM Articles");
-  QSet<QString> erledigte;
-  for (db::Recordset p = Positionen_lesen(Beleg, Belegnummer); !p.IsEOF(); p.MoveNext()) {
-    const QString nummer = p.Text(QStringLiteral("ArticleNumber"));
-    if (erledigte.contains(nummer)) continue;
-    erledigte.insert(nummer);
-    if (artikel.Filter({"ArticleNumber = ", db::Wert{nummer}}) && artikel.RecordCount() > 0)
-      Bestand_summieren(artikel, nummer, Lager);
-    else
-      Ablauf_melden(QStringLiteral("Artikelbestand_aktualisieren"), QStringLiteral("no article ") + nummer);
+  // Once more where somebody else changed a total between reading and writing.
+  for (int versuch = 0; versuch < 2; ++versuch) {
+    db::Recordset artikel = Abfragen("SELECT * FROM Articles");
+    QSet<QString> erledigte;
+    for (db::Recordset p = Positionen_lesen(Beleg, Belegnummer); !p.IsEOF(); p.MoveNext()) {
+      const QString nummer = p.Text(QStringLiteral("ArticleNumber"));
+      if (erledigte.contains(nummer)) continue;
+      erledigte.insert(nummer);
+      if (artikel.Filter({"ArticleNumber = ", db::Wert{nummer}}) && artikel.RecordCount() > 0)
+        Bestand_summieren(artikel, nummer, Lager);
+      else
+        Ablauf_melden(QStringLiteral("Artikelbestand_aktualisieren"), QStringLiteral("no article ") + nummer);
+    }
+    if (!artikel.HasPendingChanges() || artikel.UpdateBatch()) return;
   }
-  if (artikel.HasPendingChanges()) artikel.UpdateBatch();
 }
 
 void Rueckstaende_erzeugen(const QString &Beleg, const QString &Belegnummer, const QString &Kundennummer) {
-  // With the old rows still there the new ones would double them.
-  if (!Ausfuehren({"DELETE FROM BackOrder WHERE Document = ", db::Wert{Beleg}, " AND DocumentNumber = ",
-                   db::Wert{Belegnummer}, " AND CustomerNumber = ", db::Wert{Kundennummer}}))
+  db::Recordset p = Positionen_lesen(Beleg, Belegnummer);
+  // Old rows are not given up for none; and with them still there the new ones would double them.
+  if (!p.IsOpen() || !Ausfuehren({"DELETE FROM BackOrder WHERE Document = ", db::Wert{Beleg},
+                                  " AND DocumentNumber = ", db::Wert{Belegnummer},
+                                  " AND CustomerNumber = ", db::Wert{Kundennummer}}))
     return;
   db::Recordset rueckstaende = Abfragen("SELECT * FROM BackOrder");
   const auto setzen = [&rueckstaende](const char *feld, const QVariant &wert) {
     rueckstaende.SetValue(QLatin1String(feld), wert);
   };
   const QVariant kunde = Kunden_Feld(Kundennummer, Kundenfeld::Matchcode);
-  for (db::Recordset p = Positionen_lesen(Beleg, Belegnummer); !p.IsEOF(); p.MoveNext()) {
+  for (; !p.IsEOF(); p.MoveNext()) {
     const double menge = p.Number(QStringLiteral("BackOrder"));
     if (menge == 0.0) continue;
     rueckstaende.AddNew();

@@ -1,11 +1,31 @@
 // Private to the stock booking: what its files share.
 #pragma once
 
+#include <QMap>
+#include <QSet>
+
 #include "db/Recordset.h"
 
 namespace marklink {
 
 /// The lines of a document.
 db::Recordset Positionen_lesen(const QString &Beleg, const QString &Belegnummer);
+/// The reservations of a document.
+db::Recordset Reservierungen_lesen(const QString &Beleg, const QString &Belegnummer);
+
+/// Stands on the lot. An empty number names no lot, though several rows may have none.
+bool Los_suchen(db::Recordset &Lager, const QString &Einlagerung);
+/// Adds to a quantity of the current lot.
+void Menge_aendern(db::Recordset &Lager, const QString &Feld, double Um);
+/// A set that a failed read has closed holds nothing any more, so nothing of it is saved.
+bool Speichern(db::Recordset &Satz);
+
+/// Quantities by StockingNumber.
+using Losmengen = QMap<QString, double>;
+/// Changes the figures of the current lot by a quantity.
+using Losaenderung = void (*)(db::Recordset &Lager, double Menge);
+/// Reads, changes and saves the lots as one batch. One that somebody else changed at that very moment is read
+/// and changed once more. Gives the lots that were not saved.
+QSet<QString> Lose_buchen(const Losmengen &Mengen, Losaenderung Aendern);
 
 }  // namespace marklink

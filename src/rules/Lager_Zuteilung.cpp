@@ -53,8 +53,7 @@ Los Los_bilden(const QString &Artikel, const db::Recordset &Lagerzeile, double M
 }  // namespace
 
 QString Artikel_Lager(const QString &Artikel) {
-  if (Option_lesen(QStringLiteral("Program"), QStringLiteral("StorageAllocation")) == u"1" &&
-      !Kontext.gBenutzer_Lagernummer.isEmpty())
+  if (Programmoption("StorageAllocation") == u"1" && !Kontext.gBenutzer_Lagernummer.isEmpty())
     return Kontext.gBenutzer_Lagernummer;
   return Artikel_Feld_lesen(Artikel, Artikelfeld::Storage).toString();
 }

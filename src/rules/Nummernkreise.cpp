@@ -22,7 +22,7 @@ QString Zaehler_lesen(const QString &Bereich) { return Option_lesen(QStringLiter
 QString Format_lesen(const QString &Bereich) {
   QString eigenes = Option_lesen(QStringLiteral("Formatting"), Bereich).trimmed();
   if (!eigenes.isEmpty()) return eigenes;
-  return Option_lesen(QStringLiteral("Program"), QStringLiteral("DocumentNumberFormat")).trimmed();
+  return Programmoption("DocumentNumberFormat").trimmed();
 }
 
 /// The date of the day, which stays that of the start also after midnight.
@@ -37,8 +37,7 @@ QString Trennzeichen(const QString &Wort) {
 
 QString Inhalt(const QString &Wort, const QString &Zaehler) {
   if (Wort == u"Nr.") return Zaehler;
-  if (Wort == u"Datum")
-    return Heute(Option_lesen(QStringLiteral("Program"), QStringLiteral("DateFormatting")));
+  if (Wort == u"Datum") return Heute(Programmoption("DateFormatting"));
   return Wort == u"Jahr" ? Heute(QStringLiteral("yyyy")) : QString();
 }
 

@@ -52,8 +52,6 @@ db::Recordset Beleg_lesen(Postenart Art, const QString &Nummer) {
 
 QDate Tag(const QVariant &Wert) { return Wert.toDateTime().date(); }
 
-QVariant Tageswert(const QDate &Tag) { return Tag.isValid() ? QVariant(Zeitpunkt(Tag)) : QVariant(); }
-
 double Rechnungsskonto(const QString &Nummer) {
   double betrag = 0.0;
   return Rechnung_Skonto(Nummer, betrag) ? betrag : 0.0;
@@ -74,7 +72,7 @@ double Beglichen(Postenart Art, const Postenwerte &Werte) {
 }
 
 Postenwerte Werte_berechnen(Postenart Art, const db::Recordset &Beleg, const QString &Nummer,
-                            const QString &Belegwort, double Neue_Zahlung, std::optional<double> Skonto) {
+                            const QString &Belegwort, double Neue_Zahlung, double Skonto) {
   const Belegquelle &quelle = Quelle(Art);
   const bool rechnung = Ist_Rechnung(Art), verbindlichkeit = Ist_Verbindlichkeit(Art);
   Postenwerte w;
@@ -91,7 +89,7 @@ Postenwerte Werte_berechnen(Postenart Art, const db::Recordset &Beleg, const QSt
                                    (verbindlichkeit ? 0.0 : Neue_Zahlung),
                                2);
   w.Auszahlungen = Runden(Auszahlungen_Summe(Belegwort, Nummer) + (verbindlichkeit ? Neue_Zahlung : 0.0), 2);
-  w.Skonto = Runden(Skonto ? *Skonto : rechnung ? Rechnungsskonto(Nummer) : 0.0, 2);
+  w.Skonto = Runden(Skonto == 0.0 && rechnung ? Rechnungsskonto(Nummer) : Skonto, 2);
   w.Mahngebuehren = rechnung ? Runden(Mahngebuehren(Nummer), 2) : 0.0;
   w.Offen = Runden(Runden(w.Betrag - w.Skonto + w.Mahngebuehren, 2) - Runden(Beglichen(Art, w), 2), 2);
   w.Bezahlt = w.Betrag < 0 ? w.Offen >= 0 : w.Offen <= 0;
@@ -160,14 +158,14 @@ void Ausgeglichenen_Beleg_aktualisieren(const db::Recordset &Gutschrift) {
 }  // namespace
 
 std::optional<Postenwerte> Postenwerte_ermitteln(Postenart Art, const QString &Nummer, const QString &Beleg,
-                                                 double Neue_Zahlung, std::optional<double> Skonto) {
+                                                 double Neue_Zahlung, double Skonto) {
   const db::Recordset beleg = Beleg_lesen(Art, Nummer);
   if (beleg.RecordCount() < 1) return std::nullopt;
   return Werte_berechnen(Art, beleg, Nummer, Beleg, Neue_Zahlung, Skonto);
 }
 
 bool Offenen_Posten_aktualisieren(Postenart Art, const QString &Nummer, const QString &Beleg,
-                                  double Neue_Zahlung, std::optional<double> Skonto) {
+                                  double Neue_Zahlung, double Skonto) {
   db::Recordset beleg = Beleg_lesen(Art, Nummer);
   if (beleg.RecordCount() < 1) return false;
   const Postenwerte werte = Werte_berechnen(Art, beleg, Nummer, Beleg, Neue_Zahlung, Skonto);

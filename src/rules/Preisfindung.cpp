@@ -142,6 +142,7 @@ class Preissuche {
     db::Recordset rs =
         Abfragen({"SELECT * FROM ArticleSpecialprices WHERE ArticleNumber = ", db::Wert{Artikel_}});
     for (; !rs.IsEOF(); rs.MoveNext()) {
+      // By days: whatever time stands with them, both ends count as whole days.
       const QDate von = rs.Value(QStringLiteral("DateFrom")).toDate();
       const QDate bis = rs.Value(QStringLiteral("DateTo")).toDate();
       if (!von.isValid() || !bis.isValid() || von > Kontext.gHeute || bis < Kontext.gHeute) continue;

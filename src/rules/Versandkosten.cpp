@@ -16,10 +16,6 @@ namespace {
 
 double Zahl_oder_Null(const QString &Text) { return Zahl_deutsch(Text).value_or(0.0); }
 
-QString Programmoption(const char *Schluessel) {
-  return Option_lesen(QStringLiteral("Program"), QLatin1String(Schluessel));
-}
-
 /// The three fields of the first zone that lists the country, else of the last zone.
 QStringList Zone_waehlen(const QString &Staffel, const QString &Land) {
   QStringList felder;
@@ -36,12 +32,13 @@ std::optional<QString> Stufe_waehlen(const QString &Stufen, double Gewicht) {
   const QStringList alle = Stufen.split(u';');
   double grenze = 999.0;
   std::optional<QString> gewaehlt;
-  for (auto stufe = alle.crbegin(); stufe != alle.crend(); ++stufe) {
-    const std::optional<double> bis = Zahl_deutsch(stufe->section(u':', 0, 0));
+  for (qsizetype i = alle.size(); i-- > 0;) {
+    const QString &stufe = alle[i];
+    const std::optional<double> bis = Zahl_deutsch(stufe.section(u':', 0, 0));
     if (!bis) continue;
-    if (*bis == Gewicht) return *stufe;
+    if (*bis == Gewicht) return stufe;
     if (*bis > Gewicht && *bis < grenze) {
-      gewaehlt = *stufe;
+      gewaehlt = stufe;
       grenze = *bis;
     }
   }
@@ -99,10 +96,12 @@ void Versandkosten_ermitteln(double &Kosten, QString &Steuerschluessel, const QS
 void Versandkosten_Staffel(double &Kosten, QString &Steuerschluessel, const QString &Staffel,
                            const QString &Land, double Gewicht) {
   const QStringList zone = Zone_waehlen(Staffel, Land);
+  Steuerschluessel = zone.value(2);
+  Kosten = 0.0;
+  if (zone.value(1).isEmpty()) return;  // a zone cut short costs nothing, intended
   // Three times 1.1 kg are 3.3 kg: the noise of a sum never costs a step.
   const std::optional<QString> stufe = Stufe_waehlen(zone.value(1), Runden(Gewicht, 6));
   Kosten = stufe ? Zahl_oder_Null(stufe->section(u':', 1, 1)) : Versandkosten_erfragen();
-  Steuerschluessel = zone.value(2);
 }
 
 void Versandkosten_lesen(double &Kosten, QString &Steuerschluessel, double &Gewicht,

@@ -26,7 +26,7 @@ void Versandkosten_ermitteln(double &Kosten, QString &Steuerschluessel, const QS
 /// Looks the costs up in a scale "DE;AT~5:4,90;10:6,90~1|CH~5:14,90~1": zones of countries, steps "up to this
 /// weight:costs" and tax key. A country in no zone takes the last one, intended. Where no step is heavy
 /// enough the user is asked for the costs; no answer is 0. A step of 999 or more is found by exactly its
-/// weight only.
+/// weight only. A zone without any steps, and a step without costs, cost 0: nobody is asked.
 void Versandkosten_Staffel(double &Kosten, QString &Steuerschluessel, const QString &Staffel,
                            const QString &Land, double Gewicht);
 

@@ -14,7 +14,7 @@
 namespace marklink {
 namespace {
 
-QVariant Tageswert(const QDate &Tag) { return Tag.isValid() ? QVariant(Zeitpunkt(Tag)) : QVariant(); }
+constexpr QLatin1String RECHNUNG("Rechnung");
 
 void Fehlende_Zahlungsart_melden() {
   dialoge().Meldung(QStringLiteral("Hinweis"),
@@ -34,12 +34,20 @@ QString Rechnung_Zahlungsbedingung(const QString &Nummer) {
       .Text(QStringLiteral("PaymentPractice"));
 }
 
-/// Amount and cash discount; the discount is what is rounded, so that both make up the whole.
-Zahlungseingang Zahlung_berechnen(const Zahlungsangaben &A) {
+/// Amount and cash discount; the discount is what is rounded, so that both make up the whole. The open rest
+/// of a new payment does not know of discounts that earlier ones took; the connector books one for each
+/// invoice.
+Zahlungseingang Zahlung_berechnen(const Zahlungsangaben &A, const db::Recordset &Bisher) {
   Zahlungseingang z;
-  z.Betrag = A.Modus == Zahlungsmodus::Neu ? Offener_Rest(A) : A.Betrag;
-  if (A.Beleg != QLatin1String("Rechnung") || !Skonto_Frist_laeuft(A.Nummer, A.Datum)) return z;
+  const bool neu = A.Modus == Zahlungsmodus::Neu;
+  z.Betrag = neu ? Offener_Rest(A) : A.Betrag;
+  if (A.Beleg != RECHNUNG || !Skonto_Frist_laeuft(A.Nummer, A.Datum)) return z;
   z.Skonto_genommen = true;
+  if (!neu && Bisher.Flag(QStringLiteral("CashDiscount"))) {
+    z.Skonto =
+        Bisher.Number(QStringLiteral("CashDiscountAmount"));  // the amount is less the discount already
+    return z;
+  }
   z.Skonto = Runden(Rabattbetrag(Skonto_Prozent(Rechnung_Zahlungsbedingung(A.Nummer)), z.Betrag), 2);
   z.Betrag = Runden(z.Betrag - z.Skonto, 2);
   return z;
@@ -48,10 +56,32 @@ Zahlungseingang Zahlung_berechnen(const Zahlungsangaben &A) {
 /// A null text when no number could be drawn.
 QString Neue_Zahlungsnummer() {
   const QString kreis = QStringLiteral("Payment");
-  const QString nummer =
-      Nummer_ziehen(QStringLiteral("PaymentIncome"), QStringLiteral("PaymentNumber"), kreis);
+  QString nummer = Nummer_ziehen(QStringLiteral("PaymentIncome"), QStringLiteral("PaymentNumber"), kreis);
   if (!nummer.isNull()) Nummernkreis_hochzaehlen(kreis);
   return nummer;
+}
+
+/// The invoice shows what all its payments took as cash discount.
+void Rechnung_Skonto_eintragen(const QString &Nummer) {
+  const QString flag = QStringLiteral("CashDiscount"), betrag = QStringLiteral("CashDiscountAmount");
+  double summe = 0.0;
+  bool genommen = false;
+  db::Recordset zahlungen =
+      Abfragen({"SELECT CashDiscount, CashDiscountAmount FROM PaymentIncome WHERE Document = ",
+                db::Wert{QString(RECHNUNG)}, " AND DocumentNumber = ", db::Wert{Nummer}});
+  for (; !zahlungen.IsEOF(); zahlungen.MoveNext()) {
+    if (!zahlungen.Flag(flag)) continue;
+    genommen = true;
+    summe += zahlungen.Number(betrag);
+  }
+  db::Recordset rechnung = Abfragen({"SELECT * FROM Invoice WHERE InvoiceNumber = ", db::Wert{Nummer}});
+  // A discount that somebody entered on the invoice stays where the payments took none.
+  const bool eigener = summe == 0.0 && rechnung.Number(betrag) != 0.0 && genommen;
+  if (!zahlungen.IsOpen() || rechnung.RecordCount() < 1 || eigener) return;
+  rechnung.SetValue(flag, genommen);
+  rechnung.SetValue(betrag, Runden(summe, 2));
+  rechnung.Update();
+  rechnung.UpdateBatch();
 }
 
 struct Konten {
@@ -86,9 +116,10 @@ void Buchung_eintragen(db::Recordset &rs, const Zahlungsangaben &A, const Konten
   rs.SetValue(QStringLiteral("DebitorAccount"), K.Debitor);
   rs.SetValue(QStringLiteral("CashAccount"), K.Kasse);
   rs.SetValue(QStringLiteral("DATEVBooked"), false);
-  rs.SetValue(QStringLiteral("AccountingNumber"), QString());
   rs.SetValue(QStringLiteral("Email"), false);
   rs.SetValue(QStringLiteral("EmailDate"), QVariant());
+  // A payment that is changed keeps its accounting record until it gets another.
+  if (A.Modus == Zahlungsmodus::Neu) rs.SetValue(QStringLiteral("AccountingNumber"), QString());
   const QDateTime jetzt = uhr().Jetzt();
   rs.SetValue(QStringLiteral("DateCreation"), jetzt);
   rs.SetValue(QStringLiteral("DateUpdate"), jetzt);
@@ -114,9 +145,7 @@ QVariantList Buchungssatz(const Zahlungsangaben &A, const Zahlungseingang &Zahlu
 }
 
 void Zahlung_verbuchen(const Zahlungsangaben &A, const Zahlungseingang &Zahlung, const Konten &K) {
-  if (Option_lesen(QStringLiteral("Program"), QStringLiteral("AccountingRecordBooking")) !=
-      QLatin1String("1"))
-    return;
+  if (Programmoption("AccountingRecordBooking") != QLatin1String("1")) return;
   const QString tabelle = QStringLiteral("PaymentIncome"), schluessel = QStringLiteral("PaymentNumber");
   const auto datev = Host_Komponente_erzeugen(QStringLiteral("datev.common"));
   Host_Komponente_aufrufen(datev.get(), QStringLiteral("Initialisierung"),
@@ -145,7 +174,8 @@ std::optional<Zahlungseingang> Zahlungseingang_erzeugen(const Zahlungsangaben &A
   const bool neu = Angaben.Modus == Zahlungsmodus::Neu;
   // No number is drawn for a row that cannot be added.
   if (!rs.IsOpen() || (!neu && rs.RecordCount() < 1)) return std::nullopt;
-  Zahlungseingang zahlung = Zahlung_berechnen(Angaben);
+  Zahlungseingang zahlung = Zahlung_berechnen(Angaben, rs);
+  const bool skonto_anders = zahlung.Skonto_genommen || (!neu && rs.Flag(QStringLiteral("CashDiscount")));
   zahlung.Nummer = neu ? Neue_Zahlungsnummer() : rs.Text(QStringLiteral("PaymentNumber"));
   if (neu && zahlung.Nummer.isNull()) return std::nullopt;
   if (neu) rs.AddNew();
@@ -155,6 +185,7 @@ std::optional<Zahlungseingang> Zahlungseingang_erzeugen(const Zahlungsangaben &A
   Buchung_eintragen(rs, Angaben, konten);
   rs.Update();
   if (!rs.UpdateBatch()) return std::nullopt;
+  if (skonto_anders && Angaben.Beleg == RECHNUNG) Rechnung_Skonto_eintragen(Angaben.Nummer);
   Zahlung_verbuchen(Angaben, zahlung, konten);
   return zahlung;
 }

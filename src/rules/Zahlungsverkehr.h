@@ -76,18 +76,17 @@ struct Postenwerte {
 };
 
 /// What the open item of the document shows at this moment; writes nothing. `Neue_Zahlung` is a payment that
-/// is not in the books yet, `Skonto` replaces what an invoice says of its cash discount. Nothing when there
-/// is no such document.
+/// is not in the books yet, `Skonto` replaces what an invoice says of its cash discount; 0: none is given,
+/// the invoice's own counts. Nothing when there is no such document.
 std::optional<Postenwerte> Postenwerte_ermitteln(Postenart Art, const QString &Nummer, const QString &Beleg,
-                                                 double Neue_Zahlung = 0.0,
-                                                 std::optional<double> Skonto = {});
+                                                 double Neue_Zahlung = 0.0, double Skonto = 0.0);
 
 /// Writes those figures to the document's open item, which is added with the next number of "OpenItem" if
 /// there is none, and marks item and document as paid or not. A credit note does the same for the document
 /// that it clears. False when the document is gone, which leaves its item as it was, or the item could not
 /// be saved.
 bool Offenen_Posten_aktualisieren(Postenart Art, const QString &Nummer, const QString &Beleg,
-                                  double Neue_Zahlung = 0.0, std::optional<double> Skonto = {});
+                                  double Neue_Zahlung = 0.0, double Skonto = 0.0);
 
 // --- incoming payments (Zahlungseingang.cpp) --------------------------------------------------------------
 
@@ -108,12 +107,14 @@ struct Zahlungsangaben {
 struct Zahlungseingang {
   QString Nummer;
   double Betrag = 0.0;  ///< booked, less cash discount
-  double Skonto = 0.0;  ///< cash discount taken, to be handed on to Offenen_Posten_aktualisieren()
+  double Skonto = 0.0;  ///< cash discount taken
   bool Skonto_genommen = false;
 };
 
-/// Books a payment for a document, with its accounting record if the client wants one. Without a payment
-/// method a box says so. Nothing when no payment was booked.
+/// Books a payment for a document, with its accounting record if the client wants one. What an invoice's
+/// payments took as cash discount is written to the invoice as well, so its open item stays settled. A
+/// changed payment that has its cash discount already is not reduced again, and keeps its accounting record.
+/// Without a payment method a box says so. Nothing when no payment was booked.
 std::optional<Zahlungseingang> Zahlungseingang_erzeugen(const Zahlungsangaben &Angaben);
 
 }  // namespace marklink

@@ -39,12 +39,13 @@ bool Ziehungsaufsicht::Weiter(const QString &Vergeben) {
   return Installiert ? Installiert(Stand_) : Bediener_fragen();
 }
 
-/// Shows the progress window, since the caller may have hidden it, and waits for its cancel button a moment.
+/// Shows the progress window where the caller has none, and waits for its cancel button a moment.
 bool Ziehungsaufsicht::Bediener_fragen() {
-  if (!Fenster_)
+  if (!fortschritt().Offen()) {
     fortschritt().ProgressAnzeigen(QStringLiteral("Vorgang wird bearbeitet. Einen Moment bitte..."), 0);
-  Fenster_ = true;
-  fortschritt().Wert(Stand_.Runden);
+    Fenster_ = true;
+  }
+  if (Fenster_) fortschritt().Wert(Stand_.Runden);
   QThread::msleep(Pause_ms);
   QCoreApplication::processEvents();
   return !Kontext.gAbbrechen;

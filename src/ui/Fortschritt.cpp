@@ -11,10 +11,18 @@ class Unsichtbarer_Fortschritt final : public Fortschritt {
  public:
   void Text(const QString & /*Zeile*/) override {}
   void Wert(int /*Wert*/) override {}
-  void Verbergen() override {}
+  void Verbergen() override { Offen_ = false; }
+  bool Offen() const override { return Offen_; }
+  void Ausblenden() override {}
+  void Einblenden() override {}
 
  protected:
-  void Anzeigen(const QString & /*Titel*/, int /*Maximum*/, bool /*Abbrechen_zeigen*/) override {}
+  void Anzeigen(const QString & /*Titel*/, int /*Maximum*/, bool /*Abbrechen_zeigen*/) override {
+    Offen_ = true;
+  }
+
+ private:
+  bool Offen_ = false;
 };
 
 Fortschritt *Installiert = nullptr;
@@ -33,5 +41,13 @@ Fortschritt &fortschritt() {
 }
 
 void Fortschritt_setzen(Fortschritt *Neu) { Installiert = Neu; }
+
+Fortschritt_verdeckt::Fortschritt_verdeckt() : War_offen_(fortschritt().Offen()) {
+  if (War_offen_) fortschritt().Ausblenden();
+}
+
+Fortschritt_verdeckt::~Fortschritt_verdeckt() {
+  if (War_offen_) fortschritt().Einblenden();
+}
 
 }  // namespace marklink

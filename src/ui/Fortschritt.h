@@ -15,6 +15,11 @@ class Fortschritt {
   virtual void Text(const QString &Zeile) = 0;
   virtual void Wert(int Wert) = 0;
   virtual void Verbergen() = 0;
+  /// Whether it is shown: false before ProgressAnzeigen(), after Verbergen(), and once somebody closed it.
+  virtual bool Offen() const = 0;
+  /// Takes the shown window out of the way and brings it back as it was: text, maximum and value.
+  virtual void Ausblenden() = 0;
+  virtual void Einblenden() = 0;
 
  protected:
   virtual void Anzeigen(const QString &Titel, int Maximum, bool Abbrechen_zeigen) = 0;
@@ -23,5 +28,17 @@ class Fortschritt {
 /// The installed progress window; one that shows nothing when none was installed.
 Fortschritt &fortschritt();
 void Fortschritt_setzen(Fortschritt *Neu);  ///< not owned; nullptr: none
+
+/// While it lives, no progress window stands in front of a box or prompt.
+class Fortschritt_verdeckt {
+ public:
+  Fortschritt_verdeckt();
+  ~Fortschritt_verdeckt();
+  Fortschritt_verdeckt(const Fortschritt_verdeckt &) = delete;
+  Fortschritt_verdeckt &operator=(const Fortschritt_verdeckt &) = delete;
+
+ private:
+  bool War_offen_;
+};
 
 }  // namespace marklink

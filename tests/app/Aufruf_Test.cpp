@@ -120,7 +120,7 @@ TEST(Aufruf_Test, Vervollstaendigung_in_der_Shell) {
     const char *Worte;  ///< the last one is being typed
     const char *Vorschlaege;
   } faelle[] = {
-      {"marklink be", "bestellungen"},
+      {"marklink be", "bestellungen belege"},
       {"marklink bestellungen l", "liste loeschen"},
       {"marklink --ordner mandant bestellungen liste --j", "--json"},
       {"marklink bestellungen --mandant X zeigen --js", "--json"},

@@ -47,7 +47,8 @@ TEST(Terminal_Test, Eingaben_und_was_davor_steht) {
   d.Meldung(QStringLiteral("Fehler"), {QStringLiteral("eins\r\nzwei"), QStringLiteral("drei\x1b[2J")},
             Symbol::Stopp, Knoepfe::OK, Antwort::OK);
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "[Referenznummer eingeben] Bitte.\n[Referenznummer eingeben] Bitte.\n[Fehler] eins | zwei | drei "
+            "[Referenznummer eingeben] Bitte. (Vorschlag: v)\n[Referenznummer eingeben] Bitte. (Vorschlag: "
+            "v)\n[Fehler] eins | zwei | drei "
             "[2J\n");
   EXPECT_TRUE(d.Fehler_gezeigt());
 }

@@ -34,6 +34,7 @@ class Belegsumme_Test : public Mandant_Test {
                    {"TaxRateEUVatID", "0"},
                    {"TaxRateEUNonVatID", "0"},
                    {"TaxRateNonEU", "0"}});
+    steuern.Zeile({{"TaxKeyNumber", ""}, {"Percentage", 25.0}});
     Fueller versand("ForwardingCharges");
     versand.Zeile({{"Description", "Post"}, {"Costs", 4.9}, {"VatCode", "1"}});
     versand.Zeile({{"Description", "Bote"}, {"Costs", 12.345}, {"VatCode", "2"}});
@@ -65,43 +66,53 @@ TEST_P(Belegsumme_Test, von_Hand_gerechnet) {
     f.Zeile(Position("1", "2", 10, 10.55, 3, 0));  // 30.00 / 31.65
     f.Zeile(Position("1", "7", 500, 595, 1, 0));   // under a key that Taxes does not know
     f.Zeile(Position("3", "1", 1e300, 1e300, 1e9, 0));
+    f.Zeile(Position("4", "1", 4.22, 5.02, 1, 0));
+    for (int i = 0; i < 3; ++i) f.Zeile(Position("5", "0", 1.005, 1.115, 1, 50));  // 0.5025 / 0.5575 a line
+    f.Zeile(Position("6", "", 10, 10, 1, 0));
+    f.Zeile(Position("7", "1", 10.02, 10.04, 1, 0));
+    f.Zeile(Position("7", "2", 10.04, 10.06, 1, 0));
   }
   QString rabatte = Rabattliste_erweitern({}, S("a"), Rabattart::Prozent, 2, false, {});
   rabatte = Rabattliste_erweitern(rabatte, S("b"), Rabattart::Prozent, 3, false, {});
   rabatte = Rabattliste_erweitern(rabatte, S("c"), Rabattart::Betrag, 1.5, true, S("2"));
   rabatte = Rabattliste_erweitern(rabatte, S("d"), Rabattart::Betrag, 10, false, {});
+  const QString gebunden = Rabattliste_erweitern({}, S("e"), Rabattart::Betrag, 3.72, true, S("1"));
   const struct {
+    const char *Nummer;
     int Taxation;
     const char *Versandart;
-    bool Mit_Rabatt;
+    QString Rabatte;
     int TaxCalculation;
     Belegsumme Erwartet;
   } tafel[] = {
-      {0, "", false, 0, {210, 35.85, 245.85, 20, 0, 0, 210, 0, false}},
-      {1, "", false, 0, {210, 35.85, 245.85, 23.8, 0, 0, 245.85, 0, false}},
+      {"1", 0, "", {}, 0, {210, 35.85, 245.85, 20, 0, 0, 210, 0, false}},
+      {"1", 1, "", {}, 0, {210, 35.85, 245.85, 23.8, 0, 0, 245.85, 0, false}},
       // 171 + 27 net; tax 32.49 + 1.485 -> 1.49
-      {0, "", true, 0, {198, 33.98, 231.98, 20, 22, 10, 210, 0, false}},
+      {"1", 0, "", rabatte, 0, {198, 33.98, 231.98, 20, 22, 10, 210, 0, false}},
       // 203.49 + 28.5675; tax 32.49 + 1.489... -> 1.49
-      {1, "", true, 0, {198.08, 33.98, 232.06, 23.8, 23.79, 10, 245.85, 0, false}},
-      {1, "Post", false, 0, {214.9, 36.78, 251.68, 23.8, 0, 0, 245.85, 5.83, true}},
-      {0, "Post", false, 0, {214.9, 36.78, 251.68, 20, 0, 0, 210, 4.9, true}},
-      {1, "Post", false, 1, {214.9, 35.85, 250.75, 23.8, 0, 0, 245.85, 4.9, true}},  // by a key of 0 per cent
-      {1, "Bote", false, 0, {222.35, 36.53, 258.87, 23.8, 0, 0, 245.85, 13.02, true}},
-      {1, "unbekannt", false, 0, {210, 35.85, 245.85, 23.8, 0, 0, 245.85, 0, true}},
-      {2, "", true, 0, {0, 0, 0, 0, 11.5, 10, 0, 0, false}},
+      {"1", 1, "", rabatte, 0, {198.08, 33.98, 232.06, 23.8, 23.79, 10, 245.85, 0, false}},
+      {"1", 1, "Post", {}, 0, {214.9, 36.78, 251.68, 23.8, 0, 0, 245.85, 5.83, true}},
+      {"1", 0, "Post", {}, 0, {214.9, 36.78, 251.68, 20, 0, 0, 210, 4.9, true}},
+      {"1", 1, "Post", {}, 1, {214.9, 35.85, 250.75, 23.8, 0, 0, 245.85, 4.9, true}},  // by a key of 0 per
+                                                                                       // cent
+      {"1", 1, "Bote", {}, 0, {222.35, 36.53, 258.87, 23.8, 0, 0, 245.85, 13.02, true}},
+      {"1", 1, "unbekannt", {}, 0, {210, 35.85, 245.85, 23.8, 0, 0, 245.85, 0, true}},
+      {"1", 2, "", rabatte, 0, {0, 0, 0, 0, 11.5, 10, 0, 0, false}},
+      // 0.50 net is 0.095 of tax, whatever noise the difference of 4.22 and 3.72 holds
+      {"4", 0, "", gebunden, 0, {0.5, 0.1, 0.6, 0, 3.72, 0, 4.22, 0, false}},
+      // each line is rounded, and so is what its rebate is taken of: 50 per cent of 1.01 / 1.12
+      {"5", 0, "", {}, 0, {1.5, 0, 1.5, 1.52, 0, 0, 1.5, 0, false}},
+      {"5", 1, "", {}, 0, {1.68, 0, 1.68, 1.68, 0, 0, 1.68, 0, false}},
+      // the tax of each key is rounded: 1.9038 and 0.5522, 1.6030 and 0.5245
+      {"7", 0, "", {}, 0, {20.06, 2.45, 22.51, 0, 0, 0, 20.06, 0, false}},
+      {"7", 1, "", {}, 0, {17.98, 2.12, 20.1, 0, 0, 0, 20.1, 0, false}},
+      {"6", 0, "", {}, 0, {10, 2.5, 12.5, 0, 0, 0, 10, 0, false}},  // the empty key is one of Taxes
   };
   for (const auto &t : tafel) {
-    SCOPED_TRACE(testing::Message() << t.Taxation << ' ' << t.Versandart << ' ' << t.Mit_Rabatt);
+    SCOPED_TRACE(testing::Message() << t.Nummer << ' ' << t.Taxation << ' ' << t.Versandart);
     Belegsumme s;
-    ASSERT_TRUE(Beleg_summieren(s, {S("Auftrag"),
-                                    S("1"),
-                                    t.Taxation,
-                                    S(t.Versandart),
-                                    {},
-                                    {},
-                                    1,
-                                    t.Mit_Rabatt ? rabatte : QString(),
-                                    t.TaxCalculation}));
+    ASSERT_TRUE(Beleg_summieren(
+        s, {S("Auftrag"), S(t.Nummer), t.Taxation, S(t.Versandart), {}, {}, 1, t.Rabatte, t.TaxCalculation}));
     EXPECT_EQ(s.Netto, t.Erwartet.Netto);
     EXPECT_EQ(s.Steuer, t.Erwartet.Steuer);
     EXPECT_EQ(s.Brutto, t.Erwartet.Brutto);
@@ -135,13 +146,13 @@ TEST_P(Belegsumme_Test, Versand_und_Endbetrag_nach_den_Einstellungen) {
   Programm("FreeShippingType", "0");
   Programm("FreeShippingAmount", "100,00");
   EXPECT_FALSE(berechnet("Auftrag", "1")) << "free from the limit on";
-  Programm("FreeShippingAmount", "100,01");
-  EXPECT_TRUE(berechnet("Auftrag", "1"));
+  Programm("FreeShippingAmount", "100,004");
+  EXPECT_TRUE(berechnet("Auftrag", "1")) << "not even half a cent below";
   EXPECT_FALSE(berechnet("Retoure", "2")) << "returns have a setting of their own";
   Programm("RefundForwarding", "1");
   Programm("RefundForwardingAmount", "100");
   EXPECT_TRUE(berechnet("Retoure", "2"));
-  Programm("RefundForwardingAmount", "100,01");
+  Programm("RefundForwardingAmount", "100,004");
   EXPECT_FALSE(berechnet("Retoure", "2"));
   Programm("ForwardingChargesDisplay", "1");
   Belegsumme s;
@@ -225,7 +236,8 @@ Modellsumme Summieren(const Modellbeleg &B, bool Freigrenze) {
   if (B.Versandart == 0 || (Freigrenze && s.Brutto >= FREIGRENZE * CENT)) return s;
   const Gross kosten = B.Versandart == 1 ? 49000 : 123450;  // ten-thousandths
   const bool eigener = B.TaxCalculation == 0 || B.TaxCalculation == 2;
-  const int satz = !eigener ? 0 : SATZ[B.Versandart - 1];
+  const bool ohne_Schluessel = B.TaxCalculation == 4;  // no such kind of customer: the empty tax key
+  const int satz = ohne_Schluessel ? 250 : !eigener ? 0 : SATZ[B.Versandart - 1];
   const Gross mit_Steuer = Kaufmaennisch(kosten * (1000 + satz), 100 * 1000) * CENT;
   s.Steuer += Kaufmaennisch(kosten * satz, 100 * 1000) * CENT;
   s.Netto += Kaufmaennisch(kosten, 100) * CENT;

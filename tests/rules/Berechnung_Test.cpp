@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "Regeln.h"
 #include "rules/Artikelfelder.h"
 #include "rules/Kunden.h"
@@ -27,13 +29,18 @@ TEST_P(Berechnung_Test, Steuern) {
   EXPECT_DOUBLE_EQ(Brutto_zu_Netto(238, S("9")), 200);
   EXPECT_DOUBLE_EQ(Steuer_aus_Brutto(238, S("9")), 38);
   EXPECT_DOUBLE_EQ(Steuer_aus_Netto(200, S("2 ")), 11);
-  EXPECT_DOUBLE_EQ(Rabattbetrag(2.5, 80), 2);
   EXPECT_DOUBLE_EQ(Netto_zu_Brutto(200, S("?")), 200);
   EXPECT_DOUBLE_EQ(Steuer_aus_Brutto(200, S("1' OR '1'='1")), 0);
   const char *kunde[] = {"9", "0", "8", "7", ""}, *artikel[] = {"9", "8", "0", "7", ""};
   for (int i = 0; i < 5; ++i) {
     EXPECT_EQ(Steuerfeld_lesen(S("9"), Steuerfeld_Kunde(i)).toString(), S(kunde[i])) << i;
     EXPECT_EQ(Steuerfeld_lesen(S("9"), Steuerfeld_ermitteln(i)).toString(), S(artikel[i])) << i;
+  }
+  const std::pair<const char *, std::array<int, 5>> besteuerung[] = {
+      {"1", {1, 0, 1, 0, 1}}, {"0", {0, 0, 0, 0, 0}}, {"", {0, 0, 0, 0, 0}}};
+  for (const auto &[wert, je_Kunde] : besteuerung) {
+    Mandant.Einstellen("Program", "Taxation", S(wert));
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(Besteuerung_ermitteln(i), je_Kunde[size_t(i)]) << wert << ' ' << i;
   }
   EXPECT_EQ(Steuerfeld_lesen(S("?"), S("Percentage")), QVariant(0.0));
   EXPECT_EQ(Steuerfeld_lesen(S("?"), S("TaxKeyNumber")), QVariant(QString()));
@@ -58,7 +65,6 @@ TEST_P(Berechnung_Test, Kunden) {
                      {"Country", "Österreich"},
                      {"Discount", 2.5},
                      {"TaxCalculation", 2},
-                     {"closed", true},
                      {"Bankname", "Sparkasse"},
                      {"iban", "AT61"},
                      {"CollectionAuthorisation", true},
@@ -68,8 +74,6 @@ TEST_P(Berechnung_Test, Kunden) {
   Zeile("CustomerTypes", {{"Description", "Händler"}, {"SpecialOfferPrice", true}});
   EXPECT_EQ(Kunden_Feld(S("10"), Kundenfeld::Matchcode).toString(), S("Müller"));
   EXPECT_EQ(Kunden_Feld(S("10"), 1), QVariant(2.5));
-  EXPECT_EQ(Kunden_Feld(S("10"), 3), QVariant(true));
-  EXPECT_EQ(Kunden_Feld(S("10"), 7).toInt(), 2);
   EXPECT_EQ(Kunden_Feld(S("10"), 8).toString(), S("10010"));
   EXPECT_EQ(Kunden_Feld(S("10"), 12).toString(), S("AT"));
   for (int feld : {-1, 2, 13}) EXPECT_TRUE(Kunden_Feld(S("10"), feld).isNull()) << feld;
@@ -99,16 +103,13 @@ TEST_P(Berechnung_Test, Artikel) {
                      {"Barcode", "40"},
                      {"UnloadingPolicy", 3},
                      {"WeightNet", 1.25},
-                     {"webshop", true},
                      {"Storage", "Halle"},
                      {"Unsociable", 1.0}});
   Zeile("Articles", {{"ArticleNumber", "V"}, {"ArticleType", "Variante"}});
   EXPECT_EQ(Artikel_Feld_lesen(S("a"), Artikelfeld::Barcode), QVariant(S("40")));
   EXPECT_EQ(Artikel_Feld_lesen(S("A"), 6), QVariant(3));
   EXPECT_EQ(Artikel_Feld_lesen(S("A"), 8), QVariant(1.25));
-  EXPECT_EQ(Artikel_Feld_lesen(S("A"), 12), QVariant(true));
   for (int feld : {-1, 9, 20, 21, 26}) EXPECT_TRUE(Artikel_Feld_lesen(S("A"), feld).isNull()) << feld;
-  EXPECT_TRUE(Artikel_Feld_lesen(S("?"), 0).isNull());
   EXPECT_TRUE(Artikel_Feld_schreiben(S("A"), Artikelfeld::Storage, S("Hof")));
   EXPECT_TRUE(Artikel_Feld_schreiben(S("A"), Artikelfeld::Unsociable, S("2,5")));
   EXPECT_TRUE(Artikel_Feld_schreiben(S("A"), Artikelfeld::Disposable, S("viele")));
@@ -118,7 +119,6 @@ TEST_P(Berechnung_Test, Artikel) {
   EXPECT_TRUE(Artikelart_Lagerfuehrung(S("A")));
   EXPECT_FALSE(Artikelart_Variante(S("A")));
   EXPECT_TRUE(Artikelart_Variante(S("V")));
-  EXPECT_FALSE(Artikelart_Lagerfuehrung(S("?")));
 }
 
 TEST(Rabattliste, wird_erweitert_und_ausgewertet) {

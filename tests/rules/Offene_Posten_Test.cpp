@@ -1,6 +1,4 @@
 // Open items: sums of a document, cash discount, and what an item shows before and after payments.
-#include <random>
-
 #include "Zahlungsverkehr_Test.h"
 #include "host/Kontext.h"
 
@@ -70,35 +68,23 @@ TEST_P(Offene_Posten_Test, Skontofrist_endet_mit_ihrem_letzten_Tag) {
     EXPECT_EQ(Skonto_Frist_laeuft(fall.Rechnung, fall.Tag), fall.Laeuft) << fall.Rechnung.toStdString();
 }
 
-TEST_P(Offene_Posten_Test, Summen_eines_Belegs) {
+TEST_P(Offene_Posten_Test, Neuer_Posten_mit_allen_Feldern) {
+  Rechnung(u"R1"_qs, 119);
   Zahlung(u"Z1"_qs, u"R1"_qs, 10.5, -2);
   Zahlung(u"Z2"_qs, u"R1"_qs, 4.25, 1.5);
   Zahlung(u"Z3"_qs, u"R1"_qs, 1, 100, false);
   Zahlung(u"Z4"_qs, u"R2"_qs, 1000, 1000);
   Gutschrift(u"G1"_qs, u"R1"_qs, 7);
   Gutschrift(u"G2"_qs, u"R1"_qs, 0.5);
-  Mahnung(u"R1"_qs, QDate(2024, 6, 9), 10);
+  Mahnung(u"R1"_qs, QDate(2024, 6, 9), 10);  // the last one by date
   Mahnung(u"R1"_qs, QDate(2024, 5, 9), 5);
   Auszahlung(u"Rechnung"_qs, u"R1"_qs, 3);
   Auszahlung(u"Quittung"_qs, u"R1"_qs, 30);
   QStringList zahlungen, gutschriften;
-  EXPECT_EQ(Zahlungen_Summe(u"Rechnung"_qs, u"R1"_qs, &zahlungen), 15.75);
+  Zahlungen_Summe(u"Rechnung"_qs, u"R1"_qs, &zahlungen);
+  Gutschriften_Summe(u"R1"_qs, &gutschriften);
   EXPECT_EQ(zahlungen, (QStringList{u"Z1"_qs, u"Z2"_qs, u"Z3"_qs}));
-  EXPECT_EQ(Ueberzahlung_Summe(u"Rechnung"_qs, u"R1"_qs), 3.5);
-  EXPECT_EQ(Auszahlungen_Summe(u"Rechnung"_qs, u"R1"_qs), 3);
-  EXPECT_EQ(Gutschriften_Summe(u"R1"_qs, &gutschriften), 7.5);
   EXPECT_EQ(gutschriften, (QStringList{u"Gutschrift G1"_qs, u"Gutschrift G2"_qs}));
-  EXPECT_EQ(Mahngebuehren(u"R1"_qs), 10) << "the last reminder by date";
-  for (const QString &fremd : {u"R9"_qs, u""_qs, u"R'1"_qs})
-    EXPECT_EQ(Zahlungen_Summe(u"Rechnung"_qs, fremd) + Gutschriften_Summe(fremd) + Mahngebuehren(fremd), 0);
-}
-
-TEST_P(Offene_Posten_Test, Neuer_Posten_mit_allen_Feldern) {
-  Rechnung(u"R1"_qs, 119);
-  Gutschrift(u"G1"_qs, u"R1"_qs, 19);
-  Mahnung(u"R1"_qs, QDate(2024, 6, 14), 5);
-  Zahlung(u"Z1"_qs, u"R1"_qs, 40, -2);
-  Auszahlung(u"Rechnung"_qs, u"R1"_qs, 1);
   EXPECT_TRUE(Offenen_Posten_aktualisieren(Postenart::Rechnung, u"R1"_qs, u"Rechnung"_qs));
   const db::Recordset rs = Posten(u"R1"_qs);
   ASSERT_EQ(rs.RecordCount(), 1);
@@ -110,9 +96,10 @@ TEST_P(Offene_Posten_Test, Neuer_Posten_mit_allen_Feldern) {
                                                {u"Date"_qs, u"2024-06-10 00:00:00"_qs},
                                                {u"DuePayment"_qs, u"2024-06-24 00:00:00"_qs}};
   for (const auto &[feld, wert] : texte) EXPECT_EQ(rs.Text(feld), wert);
-  const std::pair<QString, double> betraege[] = {{u"Amount"_qs, 119},         {u"OverdueFines"_qs, 5},
-                                                 {u"CreditAmount"_qs, 19},    {u"PaymentsReceived"_qs, 42},
-                                                 {u"OutgoingPayments"_qs, 1}, {u"OutstandingAmount"_qs, 63}};
+  const std::pair<QString, double> betraege[] = {
+      {u"Amount"_qs, 119},         {u"OverdueFines"_qs, 10},
+      {u"CreditAmount"_qs, 7.5},   {u"PaymentsReceived"_qs, 19.25},
+      {u"OutgoingPayments"_qs, 3}, {u"OutstandingAmount"_qs, 102.25}};
   for (const auto &[feld, wert] : betraege) EXPECT_EQ(rs.Number(feld), wert) << feld.toStdString();
   EXPECT_FALSE(rs.Flag(u"BadDebt"_qs));
   EXPECT_FALSE(rs.Flag(u"Paid"_qs));
@@ -122,7 +109,7 @@ TEST_P(Offene_Posten_Test, Neuer_Posten_mit_allen_Feldern) {
 
 TEST_P(Offene_Posten_Test, Bezahlt_folgt_dem_Rest) {
   Rechnung(u"R1"_qs, 100);
-  const auto aktualisieren = [](double zahlung = 0, std::optional<double> skonto = {}) {
+  const auto aktualisieren = [](double zahlung = 0, double skonto = 0) {
     EXPECT_TRUE(Offenen_Posten_aktualisieren(Postenart::Rechnung, u"R1"_qs, u"Rechnung"_qs, zahlung, skonto));
     return Posten(u"R1"_qs).Number(u"OutstandingAmount"_qs);
   };
@@ -149,7 +136,9 @@ TEST_P(Offene_Posten_Test, Bezahlt_folgt_dem_Rest) {
   EXPECT_EQ(aktualisieren(), 100);
   Felder_aendern(u"Invoice"_qs, u"InvoiceNumber"_qs, u"R1"_qs, u"CashDiscount"_qs, true);
   EXPECT_EQ(aktualisieren(), 97.5);
-  EXPECT_EQ(aktualisieren(0, 0.0), 100);
+  EXPECT_EQ(aktualisieren(0, 2.4), 97.6);
+  Zahlung(u"Z1"_qs, u"R1"_qs, 97.4);
+  EXPECT_EQ(aktualisieren(), 0.1) << "to the cent, without noise";
 }
 
 TEST_P(Offene_Posten_Test, Verschwundener_Beleg_laesst_den_Posten_stehen) {
@@ -192,34 +181,6 @@ TEST_P(Offene_Posten_Test, Andere_Belegarten) {
   }
   EXPECT_EQ(Posten(u"R1"_qs).Number(u"OutstandingAmount"_qs), 75) << "brought up to date by its credit note";
   EXPECT_EQ(Posten(u"L1"_qs, u"Lieferanten-Rechnung"_qs).Text(u"Contact"_qs), u"Leder KG"_qs);
-}
-
-// Whole cents in the model: whatever comes together, what is open is right to the cent.
-TEST_P(Offene_Posten_Test, Zufaellige_Betraege_auf_den_Cent) {
-  std::mt19937 zufall(4711);  // NOLINT(cert-msc51-cpp): the same cases each time
-  const auto cent = [&zufall](int ende) { return int(zufall() % unsigned(ende)); };
-  for (int fall = 0; fall < 150; ++fall) {
-    const QString nummer = QStringLiteral("R%1").arg(fall);
-    const int betrag = cent(10'000'000), skonto = cent(1000), gebuehr = cent(1000), neu = cent(500);
-    int offen = betrag - skonto + gebuehr - neu;
-    Rechnung(nummer, betrag / 100.0);
-    if (gebuehr > 0) Mahnung(nummer, QDate(2024, 6, 1), gebuehr / 100.0);
-    for (int i = cent(4); i > 0; --i) {
-      const int zahlung = cent(3'000'000), differenz = cent(200) - 100;
-      Zahlung(nummer + u'Z' + QString::number(i), nummer, zahlung / 100.0, differenz / 100.0);
-      offen -= zahlung + std::abs(differenz);
-    }
-    if (const int gutschrift = cent(500); gutschrift > 0) {
-      Gutschrift(nummer, nummer, gutschrift / 100.0);
-      offen -= gutschrift;
-    }
-    const auto werte =
-        Postenwerte_ermitteln(Postenart::Rechnung, nummer, u"Rechnung"_qs, neu / 100.0, skonto / 100.0);
-    ASSERT_TRUE(werte);
-    EXPECT_EQ(werte->Offen, offen / 100.0) << fall;
-    EXPECT_EQ(werte->Bezahlt, offen <= 0) << fall;
-  }
-  EXPECT_EQ(Abfragen("SELECT * FROM OpenItems").RecordCount(), 0) << "asking writes nothing";
 }
 
 }  // namespace

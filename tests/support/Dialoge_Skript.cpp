@@ -93,6 +93,13 @@ void Fortschritt_Skript::Wert(int Wert) {
 
 void Fortschritt_Skript::Verbergen() { Sichtbar = false; }
 
+void Fortschritt_Skript::Ausblenden() {
+  Sichtbar = false;
+  ++Ausgeblendet;
+}
+
+void Fortschritt_Skript::Einblenden() { Sichtbar = true; }
+
 void Fortschritt_Skript::Anzeigen(const QString &Titel, int Maximum, bool Abbrechen_zeigen) {
   Angezeigt.push_back({Titel, Maximum, Abbrechen_zeigen});
   Sichtbar = true;

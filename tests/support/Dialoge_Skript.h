@@ -78,11 +78,15 @@ class Fortschritt_Skript : public Fortschritt {
   QStringList Texte;
   std::vector<int> Werte;
   bool Sichtbar = false;
+  int Ausgeblendet = 0;    ///< times that it was taken out of the way
   int Abbrechen_bei = -1;  ///< the cancel button is pressed when this value is shown
 
   void Text(const QString &Zeile) override;
   void Wert(int Wert) override;
   void Verbergen() override;
+  bool Offen() const override { return Sichtbar; }
+  void Ausblenden() override;
+  void Einblenden() override;
 
  protected:
   void Anzeigen(const QString &Titel, int Maximum, bool Abbrechen_zeigen) override;

@@ -60,7 +60,7 @@ std::vector<Tabelle> Artikeltabellen() {
        {Nummer("ArticleNumber"), Gleitkomma("Quantity"), Gleitkomma("NetPrice"), Gleitkomma("VatAmount"),
         Gleitkomma("GrossPrice")},
        {},
-       {{"ArticleNumber", "Quantity", "NetPrice", "VatAmount", "GrossPrice"}}},
+       {{"ArticleNumber", "Quantity"}}},
       {"ArticleCustomerTypePrices",
        {Nummer("ArticleNumber"), Text("CustomerType"), Kurztext("VatCode"), Gleitkomma("NetPrice"),
         Gleitkomma("VatAmount"), Gleitkomma("GrossPrice"), Kurztext("WebshopID")},
