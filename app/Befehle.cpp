@@ -1,6 +1,7 @@
 // The table of commands.
 #include "Befehle.h"
 
+#include "Schirmnamen.h"
 #include "rules/Nummernkreise.h"
 
 namespace marklink {
@@ -197,9 +198,9 @@ std::vector<Befehl> Alle_Befehle() {
                   &Befehl_Preis});
   alle.push_back({QStringLiteral("schirm"),
                   {},
-                  {{QStringLiteral("NAME")}},
+                  {{QStringLiteral("NAME"), Schirmnamen()}},
                   {},
-                  QStringLiteral("öffnet einen Bildschirm"),
+                  QStringLiteral("öffnet einen Bildschirm: ") + Schirmnamen().join(QLatin1String(", ")),
                   &Befehl_Schirm});
   alle.push_back({QStringLiteral("vervollstaendigung"),
                   {},

@@ -16,17 +16,18 @@ namespace {
 
 constexpr int Laengster_Pfad = 240;  ///< a setting is read to 255 characters
 
-/// The reply file lies in the temporary folder that all users share: a name of its own for each program
-/// folder.
-QString Antwortdatei() {
-  return QStringLiteral("marklink_%1.xml").arg(QRandomGenerator::system()->generate64(), 16, 16, QChar(u'0'));
+/// One name for two files. The reply file lies in the temporary folder that all users share: a name of its
+/// own for each program folder. The script's companion lies in the program folder and goes to the shop's
+/// server, which must run it rather than show what it holds.
+QString Exportdatei() {
+  return QStringLiteral("marklink_%1.php").arg(QRandomGenerator::system()->generate64(), 16, 16, QChar(u'0'));
 }
 
 /// What depends on the machine comes first: values that are there stay.
 std::vector<app::Einstellung> Hostwerte(const QString &Ordner) {
   std::vector<app::Einstellung> werte{
       {QStringLiteral("Connection"), QStringLiteral("DataSource"), Ordner},
-      {QStringLiteral("Marklink"), QStringLiteral("exportfile"), Antwortdatei()},
+      {QStringLiteral("Marklink"), QStringLiteral("exportfile"), Exportdatei()},
   };
   const std::vector<app::Einstellung> uebrige = app::Host_Einstellungen();
   werte.insert(werte.end(), uebrige.begin(), uebrige.end());

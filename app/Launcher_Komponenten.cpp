@@ -11,6 +11,7 @@ std::unique_ptr<Host_Komponente> Launcher_Komponenten::Erzeugen(const QString &N
   };
   if (heisst("dta.common")) return Dta_erzeugen();
   if (heisst("datev.common")) return Datev_erzeugen();
+  if (heisst("varda.common")) return Varda_erzeugen();
   Ablauf_melden(QStringLiteral("Host_Komponente_erzeugen"),
                 QStringLiteral("'%1' ist nicht vorhanden").arg(Name));
   return nullptr;

@@ -1,5 +1,6 @@
 // The host components that the launcher brings: a plain "dta.common" and a plain "datev.common", which keep
-// what they are given in tables of the client. Any other name is passed over.
+// what they are given in tables of the client, and the FTP client of "varda.common". Any other name is passed
+// over.
 #pragma once
 
 #include "ui/Host_Komponenten.h"
@@ -27,5 +28,12 @@ std::unique_ptr<Host_Komponente> Dta_erzeugen();
 ///                     reference word, reference number, contact number, contact, store)
 ///                     -> number of the record, as text
 std::unique_ptr<Host_Komponente> Datev_erzeugen();
+
+/// Files to the shop's server (Ftp.h).
+///   Initialisierung(client, employee) -> bool
+///   FTP_Verbindungstest(server, user, password) -> bool
+///   FTP_Upload(server, user, password, target folder, local file) -> bool
+///   FTP_Datei_exists(server, user, password, target folder, file name) -> bool
+std::unique_ptr<Host_Komponente> Varda_erzeugen();
 
 }  // namespace marklink

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSaveFile>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -12,6 +11,7 @@
 #include "Hostkonfiguration.h"
 #include "Mandantenliste.h"
 #include "Ruecknahme.h"
+#include "Shopscript.h"
 #include "db/Verbindung.h"
 #include "host/Dateisperre.h"
 #include "host/Datenbank.h"
@@ -196,6 +196,8 @@ QString Im_Ordner_anlegen(const Mandantenplan &Plan, Ruecknahme &Zurueck) {
   if (!Hostkonfiguration_ergaenzen(Plan.Ordner, Zurueck))
     return QStringLiteral("Die Hostkonfiguration im Ordner '%1' kann nicht geschrieben werden.")
         .arg(Plan.Ordner);
+  if (!Shopscript_bereitlegen(Plan.Ordner, Zurueck))
+    return QStringLiteral("Das Shopscript kann nicht in den Ordner '%1' gelegt werden.").arg(Plan.Ordner);
   Programmordner_setzen(Plan.Ordner);
   Programm_initialisieren();
   if (QString grund = Vorhandenes_pruefen(Plan); !grund.isEmpty()) return grund;
@@ -221,18 +223,18 @@ QString Mandant_anlegen(const Mandantenplan &Plan) {
   Ruecknahme zurueck;
   if (!Programmordner_anlegen(Plan.Ordner, zurueck))
     return QStringLiteral("Der Ordner '%1' kann nicht angelegt werden.").arg(Plan.Ordner);
-  QLockFile sperre(In_Ordner(Plan.Ordner, QStringLiteral(".anlegen.lock")));
-  if (!Sperren(sperre, Wartezeit_ms))
-    return sperre.error() == QLockFile::LockFailedError
-               ? QStringLiteral("Im Ordner '%1' wird gerade ein anderer Mandant angelegt.").arg(Plan.Ordner)
-               : QStringLiteral("Der Ordner '%1' kann nicht beschrieben werden.").arg(Plan.Ordner);
   QString grund;
   {
+    Dateisperre sperre(In_Ordner(Plan.Ordner, QStringLiteral(".anlegen.lock")));
+    const Dateisperre::Stand stand = sperre.Sperren(Wartezeit_ms);
+    if (stand == Dateisperre::Stand::Belegt)
+      return QStringLiteral("Im Ordner '%1' wird gerade ein anderer Mandant angelegt.").arg(Plan.Ordner);
+    if (stand == Dateisperre::Stand::Unmoeglich)
+      return QStringLiteral("Der Ordner '%1' kann nicht beschrieben werden.").arg(Plan.Ordner);
     Ruecknahme darin;  // taken back before the lock goes
     grund = Im_Ordner_anlegen(Plan, darin);
     if (grund.isEmpty()) darin.Gelungen();
   }
-  sperre.unlock();
   if (grund.isEmpty()) zurueck.Gelungen();
   return grund;
 }

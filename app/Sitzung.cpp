@@ -4,16 +4,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <memory>
 
 #include "Ausgabe.h"
 #include "Befehlszeile.h"
 #include "Mandantenliste.h"
-#include "host/Dateisperre.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
 #include "host/Programmstart.h"
-#include "marklink/common.h"
 
 namespace marklink {
 namespace {
@@ -58,15 +55,6 @@ bool Datenbank_lesbar() {
   return false;
 }
 
-struct Objektfreigabe {
-  void operator()(common *Objekt) const { marklink_common_freigeben(Objekt); }
-};
-
-bool Initialisieren(const QString &Mandant, const QString &Mitarbeiter) {
-  const std::unique_ptr<common, Objektfreigabe> objekt(marklink_common_erzeugen());
-  return objekt->Initialisierung(Mandant, Mitarbeiter);
-}
-
 }  // namespace
 
 QString Programmordner_bestimmen(const Aufruf &A) {
@@ -95,7 +83,7 @@ bool Einstellungen_oeffnen(const Aufruf &A) {
 
 bool Mandant_oeffnen(const Aufruf &A) {
   if (!Einstellungen_oeffnen(A) || !Datenbank_lesbar()) return false;
-  if (Initialisieren(Kontext.gFirmenname, Benutzer(A))) return true;
+  if (Objekt_erzeugen()->Initialisierung(Kontext.gFirmenname, Benutzer(A))) return true;
   Fehler_melden(
       QStringLiteral("Der Mandant '%1' hat noch kein Shopprojekt; 'marklink einstellung schreiben Marklink "
                      "project NAME' legt es an.")
@@ -105,10 +93,8 @@ bool Mandant_oeffnen(const Aufruf &A) {
 
 Shopsperre::Shopsperre() : Sperre_(Kontext.gProgrammpfad + QStringLiteral(".shop.lock")) {
   constexpr int Wartezeit_ms = 60'000;
-  // A run may take long; only the end of its program makes its lock stale.
-  Sperre_.setStaleLockTime(0);
   // In a folder that takes no lock nobody else can take one either: better unguarded than not at all.
-  Erhalten_ = Sperren(Sperre_, Wartezeit_ms) || Sperre_.error() != QLockFile::LockFailedError;
+  Erhalten_ = Sperre_.Sperren(Wartezeit_ms) != Dateisperre::Stand::Belegt;
   if (!Erhalten_) Fehler_melden(QStringLiteral("Ein anderer Aufruf ist noch mit dem Shop verbunden."));
 }
 

@@ -1,12 +1,23 @@
 // Opening a client for a command: program folder, client, employee, and what can go wrong with them.
 #pragma once
 
-#include <QLockFile>
 #include <QString>
+
+#include <memory>
+#include "host/Dateisperre.h"
+
+#include "marklink/common.h"
 
 namespace marklink {
 
 struct Aufruf;
+
+struct Objektfreigabe {
+  void operator()(common *Objekt) const { marklink_common_freigeben(Objekt); }
+};
+/// The library as its host holds it.
+using Bibliothek = std::unique_ptr<common, Objektfreigabe>;
+inline Bibliothek Objekt_erzeugen() { return Bibliothek(marklink_common_erzeugen()); }
 
 /// The program folder by option, environment or default; absolute, without a trailing separator.
 QString Programmordner_bestimmen(const Aufruf &A);
@@ -30,7 +41,7 @@ class Shopsperre {
   bool Erhalten() const { return Erhalten_; }
 
  private:
-  QLockFile Sperre_;
+  Dateisperre Sperre_;
   bool Erhalten_;
 };
 

@@ -5,6 +5,7 @@
 #include "Befehlszeile.h"
 #include "Hilfe.h"
 #include "Launcher_Komponenten.h"
+#include "Schirmnamen.h"
 #include "Terminal_Dialoge.h"
 #include "Terminal_Fortschritt.h"
 #include "Terminal_Ziehung.h"
@@ -15,45 +16,60 @@
 namespace marklink {
 namespace {
 
-/// The ports of the terminal, installed as long as this lives.
+/// What every command has, installed as long as this lives.
 class Anschluesse {
  public:
-  explicit Anschluesse(const Aufruf &A) : Dialoge_(A.Werte("antwort")) {
-    Dialoge_setzen(&Dialoge_);
-    Fortschritt_setzen(&Fortschritt_);
+  Anschluesse() {
     Host_Komponenten_setzen(&Komponenten_);
-    Verbindungsfenster_setzen(&Austausch_im_Terminal);
     Stillstandsfrage_setzen(&Stillstand_im_Terminal);
-    Unterbrechung_einrichten();
   }
   ~Anschluesse() {
-    Dialoge_setzen(nullptr);
-    Fortschritt_setzen(nullptr);
     Host_Komponenten_setzen(nullptr);
-    Verbindungsfenster_setzen(nullptr);
     Stillstandsfrage_setzen({});
     db::Verbindungen_schliessen();
   }
   Anschluesse(const Anschluesse &) = delete;
   Anschluesse &operator=(const Anschluesse &) = delete;
 
+ private:
+  Launcher_Komponenten Komponenten_;
+};
+
+/// The terminal in place of the library's windows.
+class Terminal {
+ public:
+  explicit Terminal(const Aufruf &A) : Dialoge_(A.Werte("antwort")) {
+    Dialoge_setzen(&Dialoge_);
+    Fortschritt_setzen(&Fortschritt_);
+    Verbindungsfenster_setzen(&Austausch_im_Terminal);
+    Unterbrechung_einrichten();
+  }
+  ~Terminal() {
+    Dialoge_setzen(nullptr);
+    Fortschritt_setzen(nullptr);
+    Verbindungsfenster_setzen(nullptr);
+  }
+  Terminal(const Terminal &) = delete;
+  Terminal &operator=(const Terminal &) = delete;
+
   bool Fehler_gezeigt() const { return Dialoge_.Fehler_gezeigt(); }
 
  private:
   Terminal_Dialoge Dialoge_;
   Terminal_Fortschritt Fortschritt_;
-  Launcher_Komponenten Komponenten_;
 };
 
 int Befehl_ausfuehren(const Aufruf &A) {
-  const Anschluesse anschluesse(A);
+  const Anschluesse anschluesse;
+  if (Braucht_Fenster(A)) return A.Was->Ausfuehren(A);
+  const Terminal terminal(A);
   const int ausgang = A.Was->Ausfuehren(A);
   if (ausgang == Falscher_Aufruf) return ausgang;
   if (Unterbrochen()) {
     Fehler_melden(QStringLiteral("Abgebrochen; was bis dahin getan war, bleibt."));
     return Fehlgeschlagen;
   }
-  return ausgang != Erledigt || anschluesse.Fehler_gezeigt() ? Fehlgeschlagen : Erledigt;
+  return ausgang != Erledigt || terminal.Fehler_gezeigt() ? Fehlgeschlagen : Erledigt;
 }
 
 int Falschen_Aufruf_melden(const Befehlszeile &Zeile) {
@@ -82,8 +98,8 @@ int Ausfuehren(const Befehlszeile &Zeile) {
 
 }  // namespace
 
-int Launcher_starten(const QStringList &Argumente) {
-  const int ausgang = Ausfuehren(Befehlszeile_lesen(Argumente));
+int Launcher_starten(const Befehlszeile &Zeile) {
+  const int ausgang = Ausfuehren(Zeile);
   if (Ausgabe_abschliessen()) return ausgang;
   Fehler_melden(QStringLiteral("Die Ausgabe konnte nicht geschrieben werden."));
   return ausgang == Erledigt ? int(Fehlgeschlagen) : ausgang;

@@ -23,11 +23,16 @@ function(marklink_vorkompilieren ziel)
   target_precompile_headers(${ziel} PRIVATE <QString> <QVariant> <QDateTime> <QList> <QHash> <memory> <vector> <functional>)
 endfunction()
 
+# Windows are the files with these names. They stand beside the rules that they show, in a target of their own; only
+# they can name a widget.
+set(MARKLINK_FENSTERNAME "/(frm|cls|rpt)[A-Za-z_0-9]*\\.(cpp|h)$")
+
 # marklink_ordner(<target> <folder below src/> LINKS <libraries>)
 function(marklink_ordner ziel ordner)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
   file(GLOB quellen CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${ordner}/*.cpp ${CMAKE_SOURCE_DIR}/src/${ordner}/*.h
        ${CMAKE_SOURCE_DIR}/src/${ordner}/schema/*.cpp)
+  list(FILTER quellen EXCLUDE REGEX "${MARKLINK_FENSTERNAME}")
   add_library(${ziel} STATIC ${quellen})
   set(pfad ${CMAKE_BINARY_DIR}/include/${ziel})
   get_filename_component(oberordner ${pfad}/${ordner} DIRECTORY)
@@ -36,4 +41,33 @@ function(marklink_ordner ziel ordner)
   target_include_directories(${ziel} PUBLIC ${pfad})
   target_link_libraries(${ziel} PUBLIC marklink_optionen ${ARG_LINKS})
   marklink_vorkompilieren(${ziel})
+endfunction()
+
+# marklink_moc(<target> "<sources>"): moc runs by itself. Left alone it overlooks files that are new, so it is made to
+# run again when the list is another one.
+function(marklink_moc ziel quellen)
+  set_target_properties(${ziel} PROPERTIES AUTOMOC ON)
+  set(stand ${CMAKE_CURRENT_BINARY_DIR}/${ziel}_quellen.txt)
+  set(bekannt "")
+  if(EXISTS ${stand})
+    file(READ ${stand} bekannt)
+  endif()
+  if(NOT bekannt STREQUAL quellen)
+    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${ziel}_autogen/timestamp)
+    file(WRITE ${stand} "${quellen}")
+  endif()
+endfunction()
+
+# marklink_fenster(<target> <folder below src/> LINKS <the folder's own target, windows that it opens>)
+function(marklink_fenster ziel ordner)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  file(GLOB quellen CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${ordner}/*.cpp ${CMAKE_SOURCE_DIR}/src/${ordner}/*.h)
+  list(FILTER quellen INCLUDE REGEX "${MARKLINK_FENSTERNAME}")
+  file(GLOB mittel CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${ordner}/*.qrc)
+  add_library(${ziel} STATIC ${quellen} ${mittel})
+  set_target_properties(${ziel} PROPERTIES AUTORCC ON)
+  marklink_moc(${ziel} "${quellen}")
+  target_link_libraries(${ziel} PUBLIC marklink_optionen ${ARG_LINKS} Qt6::Widgets PRIVATE Qt6::Svg)
+  target_precompile_headers(${ziel} PRIVATE <QString> <QVariant> <QDateTime> <QWidget> <QDialog> <QEvent>
+    <QLayout> <QLabel> <QPushButton> <memory> <vector> <functional>)
 endfunction()

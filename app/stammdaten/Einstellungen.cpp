@@ -124,7 +124,6 @@ constexpr Wertepaar Hostprogramm[] = {
 /// The picture folders go from the largest size to the smallest, since each is scaled from the one before;
 /// 0 by 0 is the size as stored.
 constexpr Wertepaar Shopscript[] = {
-    {"exportfile", "marklink.xml"},
     {"exportfolder", "marklink"},
     {"script", "marklink.php"},
     {"imagefolder", "images/product_images"},

@@ -32,8 +32,8 @@ final class Shop
     /** Reads the companion file and the shop's configure.php; throws when there is no way to the database. */
     public static function oeffnen(string $ordner): self
     {
-        $begleitdatei = $ordner . '/marklink_einstellungen.php';
-        $einstellungen = is_file($begleitdatei) ? include $begleitdatei : [];
+        $begleitdatei = self::begleitdatei($ordner);
+        $einstellungen = $begleitdatei !== '' ? include $begleitdatei : [];
         $einstellungen = is_array($einstellungen) ? $einstellungen : [];
 
         $pfad = (string) ($einstellungen['configure'] ?? '../includes/configure.php');
@@ -48,6 +48,26 @@ final class Shop
         }
         require_once $pfad;
         return new self(Datenbank::oeffnen(), $einstellungen);
+    }
+
+    /**
+     * The companion file under the name that a shop owner gives it, else the latest one that came by FTP: its name
+     * holds 16 hexadecimal digits, since each program folder has its own. The empty text when there is none.
+     */
+    private static function begleitdatei(string $ordner): string
+    {
+        $eigene = $ordner . '/marklink_einstellungen.php';
+        if (is_file($eigene)) {
+            return $eigene;
+        }
+        $gefunden = [];
+        foreach (@scandir($ordner) ?: [] as $name) {
+            if (preg_match('/^marklink_[0-9a-f]{16}\.php$/D', $name)) {
+                $gefunden["$ordner/$name"] = (int) @filemtime("$ordner/$name");
+            }
+        }
+        arsort($gefunden);
+        return (string) (array_key_first($gefunden) ?? '');
     }
 
     /** A setting of the companion file. */

@@ -142,6 +142,11 @@ QStringList Recordset::Fields() const {
 
 bool Recordset::HasField(const QString &Feld) const { return d->Spalten->finden(Feld) >= 0; }
 
+Feldart Recordset::Type(const QString &Feld) const {
+  const int nummer = d->Spalten->finden(Feld);
+  return nummer >= 0 ? d->Spalten->Felder[static_cast<std::size_t>(nummer)].Art : Feldart::Offen;
+}
+
 namespace {
 const Zelle Leere_Zelle;
 }
@@ -169,6 +174,13 @@ QString Recordset::Text(const QString &Feld) const {
   Feldart art = Feldart::Offen;
   const Zelle &z = d->Zelle_von(Feld, art);
   return Feldtext_lesen(z, art);
+}
+
+std::optional<QByteArrayView> Recordset::Textbytes(const QString &Feld) const {
+  Feldart art = Feldart::Offen;
+  const Zelle &z = d->Zelle_von(Feld, art);
+  if (art != Feldart::Text || z.Inhalt != Zelle::Art::Text) return std::nullopt;
+  return QByteArrayView(z.Daten, static_cast<qsizetype>(z.Laenge));
 }
 
 double Recordset::Number(const QString &Feld) const {

@@ -9,14 +9,18 @@
 // leaves the set unfiltered. MARKLINK_TRACE=1 tells of each.
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 #include <memory>
+#include <optional>
 
 #include "Anweisung.h"
 
 namespace marklink::db {
+
+enum class Feldart : quint8;  // Ergebnis.h
 
 class Recordset {
  public:
@@ -61,11 +65,15 @@ class Recordset {
   // --- fields of the current row; names without regard to case ---------------------------------------------
   QStringList Fields() const;
   bool HasField(const QString &Feld) const;
+  Feldart Type(const QString &Feld) const;  ///< what the column holds; Offen when there is no such field
   /// Null when there is no such field or row. Text is QString, flags are bool, dates QDateTime, numbers int,
   /// qint64 or double by the column's type, bytes QByteArray.
   QVariant Value(const QString &Feld) const;
-  QString Text(const QString &Feld) const;   ///< null and missing: empty; numbers with a point, dates as ISO
-                                             ///< ("YYYY-MM-DD hh:mm:ss"), flags "-1" or "0" in both dialects
+  QString Text(const QString &Feld) const;  ///< null and missing: empty; numbers with a point, dates as ISO
+                                            ///< ("YYYY-MM-DD hh:mm:ss"), flags "-1" or "0" in both dialects
+  /// The bytes (UTF-8) of a text column as they are kept, until the set changes: what Text() would have to
+  /// convert. Nothing for a null, a missing field and every other column.
+  std::optional<QByteArrayView> Textbytes(const QString &Feld) const;
   double Number(const QString &Feld) const;  ///< null, missing or no number: 0; flags -1 or 0
   bool Flag(const QString &Feld) const;      ///< null or missing: false
   bool IsNull(const QString &Feld) const;

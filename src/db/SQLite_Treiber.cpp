@@ -149,6 +149,8 @@ bool SQLite_Sitzung::Einrichten() {
   // At most 8 MB of pages: single look-ups all over a large table find the upper ones again, and the rest is
   // in the system's own cache. More only makes the program grow with the books.
   sqlite3_exec(Db_, "PRAGMA cache_size = -8192", nullptr, nullptr, nullptr);
+  // What is sorted is customers' data and does not belong into a file of its own; it sorts faster.
+  sqlite3_exec(Db_, "PRAGMA temp_store = MEMORY", nullptr, nullptr, nullptr);
   return true;
 }
 

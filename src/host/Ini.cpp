@@ -182,8 +182,8 @@ bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString
     return false;
   }
   // Several programs may write one client's settings; each reads, changes and replaces the file.
-  QLockFile sperre(Datei + QStringLiteral(".lock"));
-  if (!Sperren(sperre, Wartezeit_ms)) {
+  Dateisperre sperre(Datei + QStringLiteral(".lock"));
+  if (sperre.Sperren(Wartezeit_ms) != Dateisperre::Stand::Erhalten) {
     Ablauf_melden(stelle, QStringLiteral("cannot be locked: %1").arg(Datei));
     return false;
   }
@@ -196,6 +196,8 @@ bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString
   }
   QStringList zeilen = ini ? ini->Zeilen : QStringList();
   Zeile_setzen(zeilen, Abschnitt, Schluessel, Schluessel.trimmed() + u'=' + Schreibform(Wert));
+  // A dialog saves all its keys; the disk is waited for only where one has changed.
+  if (ini && zeilen == ini->Zeilen) return true;
   while (!zeilen.isEmpty() && zeilen.back().isEmpty()) zeilen.removeLast();
   QSaveFile f(Datei);
   if (!f.open(QIODevice::WriteOnly)) {

@@ -103,7 +103,10 @@ void Auftragsliste::Auftragsliste_laden() {
                        QStringLiteral("' wird eingelesen..."));
     const int zeile = Zellen_.Zeile_anfuegen();
     for (std::size_t spalte = 0; spalte < felder.size(); ++spalte) {
-      if (!felder[spalte].isEmpty())
+      if (felder[spalte].isEmpty()) continue;
+      if (const auto text = satz.Textbytes(felder[spalte]))
+        Zellen_.Text_schreiben(zeile, static_cast<int>(spalte), *text);
+      else
         Zellen_.Schreiben(zeile, static_cast<int>(spalte), satz.Value(felder[spalte]));
     }
     fortschritt().Wert(zeile + 1);
@@ -111,6 +114,7 @@ void Auftragsliste::Auftragsliste_laden() {
   fortschritt().Verbergen();
   Kontext.gLaeuft = false;
   if (Zeilenzahl() > 0) Aktuell_ = 0;
+  if (Geladen) Geladen();
 }
 
 QVariant Auftragsliste::Zelle(int Zeile, const char *Schluessel) const {
@@ -123,8 +127,12 @@ QVariant Auftragsliste::Zelle(int Zeile, int Spalte) const {
 }
 
 void Auftragsliste::Zelle_setzen(int Zeile, const char *Schluessel, const QVariant &Wert) {
-  const int spalte = Auftragsspalte_finden(Schluessel);
-  if (Vorhanden(Zeile) && spalte >= 0) Zellen_.Schreiben(Zeile, spalte, Wert);
+  Zelle_setzen(Zeile, Auftragsspalte_finden(Schluessel), Wert);
+}
+
+void Auftragsliste::Zelle_setzen(int Zeile, int Spalte, const QVariant &Wert) {
+  if (Vorhanden(Zeile) && Spalte >= 0 && Spalte < static_cast<int>(Auftragsspalten().size()))
+    Zellen_.Schreiben(Zeile, Spalte, Wert);
 }
 
 void Auftragsliste::AktuelleZeile_setzen(int Zeile) {

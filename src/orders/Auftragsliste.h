@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QVariant>
+#include <functional>
 #include <vector>
 
 #include "Zellenspeicher.h"
@@ -32,6 +33,8 @@ class Auftragsliste {
   /// Rebuilds the row array under the status filter (checked rows of lvwAuftragsstatus) and the period filter
   /// (Kontext.gViewablePeriod), and stands on the first row. gAbbrechen ends it with what is there.
   void Auftragsliste_laden();
+  /// Called at the end of every load, whoever asked for it: the rows are others.
+  std::function<void()> Geladen;
   /// The statement of that load.
   db::Anweisung Ladeanweisung() const;
 
@@ -42,6 +45,7 @@ class Auftragsliste {
   QVariant Zelle(int Zeile, int Spalte) const;
   /// Edits stay in the row array; the table is not written. Nothing happens outside.
   void Zelle_setzen(int Zeile, const char *Schluessel, const QVariant &Wert);
+  void Zelle_setzen(int Zeile, int Spalte, const QVariant &Wert);
 
   int AktuelleZeile() const { return Aktuell_; }  ///< -1: none
   /// Ignored when there is no such row.

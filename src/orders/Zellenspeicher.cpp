@@ -88,9 +88,14 @@ void Zellenspeicher::Schreiben(int Zeile, int Spalte, const QVariant &Wert) {
       break;
     }
     default:
-      neu = Text_ablegen(Wert.toString(), Zeile > 0 ? &Ort(Zeile - 1, Spalte) : nullptr);
+      Text_schreiben(Zeile, Spalte, Wert.toString().toUtf8());
+      return;
   }
   Ort(Zeile, Spalte) = neu;
+}
+
+void Zellenspeicher::Text_schreiben(int Zeile, int Spalte, QByteArrayView Utf8) {
+  Ort(Zeile, Spalte) = Text_ablegen(Utf8, Zeile > 0 ? &Ort(Zeile - 1, Spalte) : nullptr);
 }
 
 bool Zellenspeicher::Wahr(int Zeile, int Spalte) const {
@@ -99,21 +104,20 @@ bool Zellenspeicher::Wahr(int Zeile, int Spalte) const {
   return zelle.Sorte == Art::Gleitkomma && zelle.Kommazahl != 0;
 }
 
-Zellenspeicher::Zelle Zellenspeicher::Text_ablegen(const QString &Text, const Zelle *Vorige) {
-  const QByteArray bytes = Text.toUtf8();
+Zellenspeicher::Zelle Zellenspeicher::Text_ablegen(QByteArrayView Utf8, const Zelle *Vorige) {
   Zelle neu;
   neu.Sorte = Art::Text;
-  neu.Laenge = static_cast<quint32>(bytes.size());
-  const auto laenge = static_cast<std::size_t>(bytes.size());
+  neu.Laenge = static_cast<quint32>(Utf8.size());
+  const auto laenge = static_cast<std::size_t>(Utf8.size());
   // Methods, currency and status repeat from row to row; the text is then shared.
   const bool gleich = Vorige != nullptr && Vorige->Sorte == Art::Text && Vorige->Laenge == neu.Laenge &&
-                      std::memcmp(Vorige->Text, bytes.constData(), laenge) == 0;
+                      std::memcmp(Vorige->Text, Utf8.data(), laenge) == 0;
   if (gleich) {
     neu.Text = Vorige->Text;
     return neu;
   }
   char *platz = Platz_nehmen(laenge);
-  std::memcpy(platz, bytes.constData(), laenge);
+  std::memcpy(platz, Utf8.data(), laenge);
   neu.Text = platz;
   return neu;
 }

@@ -2,6 +2,7 @@
 // hundred thousand orders take tens of megabytes, and building a cell's value costs one small copy.
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 #include <QVariant>
 #include <memory>
@@ -23,6 +24,7 @@ class Zellenspeicher {
   /// anything else as its text.
   QVariant Lesen(int Zeile, int Spalte) const;
   void Schreiben(int Zeile, int Spalte, const QVariant &Wert);
+  void Text_schreiben(int Zeile, int Spalte, QByteArrayView Utf8);
   /// True, or a number other than 0.
   bool Wahr(int Zeile, int Spalte) const;
 
@@ -40,7 +42,7 @@ class Zellenspeicher {
 
   const Zelle &Ort(int Zeile, int Spalte) const;
   Zelle &Ort(int Zeile, int Spalte);
-  Zelle Text_ablegen(const QString &Text, const Zelle *Vorige);
+  Zelle Text_ablegen(QByteArrayView Utf8, const Zelle *Vorige);
   char *Platz_nehmen(std::size_t Laenge);
 
   int Spalten_;

@@ -29,7 +29,7 @@ enum : qint16 {
 };
 }
 namespace Aendern {
-enum : qint16 { Bestellstatus = 2 };
+enum : qint16 { Bestellstatus = 2, Tabellen = 15 };
 }
 
 QString Daten_abrufen(qint16 Auswahl, const QString &Parameter);

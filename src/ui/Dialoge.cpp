@@ -47,4 +47,6 @@ Dialoge &dialoge() {
 
 void Dialoge_setzen(Dialoge *Neu) { Installiert = Neu; }
 
+bool Dialoge_gesetzt() { return Installiert != nullptr; }
+
 }  // namespace marklink

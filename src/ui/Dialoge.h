@@ -32,5 +32,6 @@ class Dialoge {
 /// The installed dialogs. With none installed nothing is shown, and the answer is the one that changes least.
 Dialoge &dialoge();
 void Dialoge_setzen(Dialoge *Neu);  ///< not owned; nullptr: none
+bool Dialoge_gesetzt();
 
 }  // namespace marklink

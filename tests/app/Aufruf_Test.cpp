@@ -39,6 +39,8 @@ TEST(Aufruf_Test, falsche_Aufrufe) {
       {"mandant anlegen Test --typ 2",
        "marklink: Die Option '--typ' nimmt eine Zahl von 0 bis 1, nicht '2'."},
       {"mandant demo --port 0", "marklink: Die Option '--port' nimmt eine Zahl von 1 bis 65535, nicht '0'."},
+      {"schirm kasse",
+       "marklink: Den Schirm 'kasse' gibt es nicht; es gibt: auftragsverwaltung, einstellungen."},
       {"vervollstaendigung fisch", "marklink: Für die Shell 'fisch' gibt es keine Vervollständigung"},
   };
   for (const auto &fall : faelle) {
@@ -86,7 +88,6 @@ TEST(Aufruf_Test, Befehle_ohne_brauchbaren_Mandanten) {
        {"bestellungen liste", "bestellungen abrufen", "bestellungen zeigen 5", "bestellungen loeschen",
         "bestellungen status 5 3", "einstellung lesen A B", "einstellung schreiben A B C"})
     endet_mit_1(zeile, "gibt es noch keinen Mandanten");
-  endet_mit_1("schirm auftragsverwaltung", "diese Ausgabe hat keine Bildschirme");
   ASSERT_EQ(l.Starten("mandant anlegen Müller").Ausgang, 0);
   endet_mit_1("bestellungen liste",
               "[Hinweis] Nehmen Sie zunächst bitte die Einstellungen für Marklink vor.\n"
@@ -102,6 +103,29 @@ TEST(Aufruf_Test, Befehle_ohne_brauchbaren_Mandanten) {
       << "case does not matter, as in the list";
   l.Umgebung(QStringLiteral("MARKLINK_MANDANT"), QStringLiteral("Müller"));
   EXPECT_EQ(l.Starten("bestellungen liste").Ausgang, 0);
+}
+
+TEST(Aufruf_Test, Schirme_brauchen_einen_Bildschirm) {
+  Launcher l;
+  ASSERT_EQ(l.Starten("mandant anlegen Test").Ausgang, 0);
+  for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    l.Umgebung(QLatin1String(variable), QString());
+  const Ergebnis e = l.Starten("schirm einstellungen");
+  EXPECT_EQ(e.Ausgang, 1);
+  EXPECT_TRUE(e.Fehler.startsWith(QStringLiteral("marklink: Es gibt keinen Bildschirm")))
+      << e.Fehler.toStdString();
+
+  l.Umgebung(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+  const auto prozess = l.Anstossen({QStringLiteral("schirm"), QStringLiteral("einstellungen")});
+  ASSERT_TRUE(prozess->waitForStarted());
+  const QString karte = QStringLiteral("/proc/%1/maps").arg(prozess->processId());
+  bool mit_fenstern = false;
+  for (int i = 0; i < 1000 && !mit_fenstern && !prozess->waitForFinished(10); ++i)
+    mit_fenstern = Launcher::Lesen(karte).contains("libqoffscreen");
+  EXPECT_TRUE(mit_fenstern) << prozess->readAllStandardError().toStdString();
+  EXPECT_FALSE(prozess->waitForFinished(300)) << "the dialog stays open";
+  prozess->kill();
+  prozess->waitForFinished();
 }
 
 TEST(Aufruf_Test, Datenordner_des_Benutzers_ohne_Angabe) {

@@ -4,6 +4,7 @@
 #include <QProcess>
 
 #include "Launcher.h"
+#include "host/Ini.h"
 
 namespace marklink::test {
 namespace {
@@ -26,8 +27,10 @@ TEST_P(Mandant_anlegen_Test, alles_was_ein_Mandant_braucht) {
   const Ergebnis e = L.Starten(Anlegen("Müller & Söhne"));
   ASSERT_EQ(e.Ausgang, 0) << e.Fehler.toStdString();
   EXPECT_EQ(e.Fehler, QString());
+  const QString begleiter =
+      Ini_lesen(L.Datei("varda.ini"), QStringLiteral("Marklink"), QStringLiteral("exportfile"));
   QStringList dateien{QStringLiteral("Müller & Söhne.mdb"), QStringLiteral("mandanten.ini"),
-                      QStringLiteral("varda.ini")};
+                      QStringLiteral("marklink.php"), begleiter, QStringLiteral("varda.ini")};
   if (GetParam() == 0) dateien.prepend(QStringLiteral("Müller & Söhne.afk"));
   EXPECT_EQ(Inhalt(L.Ordner()), dateien);
   for (const QString &datei : dateien)
@@ -67,7 +70,7 @@ TEST_P(Mandant_anlegen_Test, mehrere_zugleich_und_nach_einem_abgeschossenen) {
   for (const auto &prozess : alle) gelungen += Launcher::Abwarten(*prozess).Ausgang == 0 ? 1 : 0;
   EXPECT_EQ(gelungen, 4) << "each name once";
   EXPECT_EQ(Launcher::Lesen(L.Datei("mandanten.ini")).count('['), 4);
-  EXPECT_EQ(Inhalt(L.Ordner()).size(), GetParam() == 0 ? 10 : 6)
+  EXPECT_EQ(Inhalt(L.Ordner()).size(), GetParam() == 0 ? 12 : 8)
       << Inhalt(L.Ordner()).join(u' ').toStdString();
 }
 

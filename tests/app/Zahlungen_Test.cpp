@@ -111,7 +111,7 @@ TEST_P(Komponenten_Test, Lastschrift_steht_in_der_Tabelle) {
       Host_Komponente_aufrufen(fremd.get(), u"Initialisierung"_qs, {u"Anderer"_qs, u"x"_qs}).toBool());
   EXPECT_FALSE(Host_Komponente_aufrufen(fremd.get(), u"Buchung_speichern"_qs, werte).isValid());
   EXPECT_EQ(Abfragen("SELECT * FROM DTABookings").RecordCount(), 2);
-  EXPECT_EQ(Host_Komponente_erzeugen(u"varda.common"_qs), nullptr);
+  EXPECT_EQ(Host_Komponente_erzeugen(u"fremd.common"_qs), nullptr);
 }
 
 TEST(Zahlungsbefehle_Test, Versandkosten_und_Posten) {

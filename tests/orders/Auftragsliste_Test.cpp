@@ -147,7 +147,7 @@ TEST_P(Auftragsliste_Test, Abbruch_beim_Laden_zeigt_was_da_ist) {
 TEST_P(Auftragsliste_Test, Statusliste) {
   Pruefliste stati;
   EXPECT_EQ(Auftragsstati_initialisieren(stati), QString());
-  EXPECT_TRUE(Auftragsstati_farben(QString()).empty());
+  EXPECT_TRUE(Auftragsstati_farben(u"1;ohne Farbe;|2;zerbrochen;rot;255"_qs).empty());
   const struct {
     QString ID, Text;
     int Farbe;

@@ -211,6 +211,12 @@ def test_access(server):
             ("&order_id=2&status=2&notify=on", "0")))]:
         check(f"error mark: {action}{rest}", shop.error(action, rest, **login), wanted)
 
+    own = shop.folder + "/marklink/marklink_einstellungen.php"
+    for name, wanted in [("marklink_0123456789abcdef.php", "ORDER"), ("marklink_0123.php", refused),
+                         ("marklink_einstellungen.php", "ORDER")]:
+        os.rename(own, own := f"{shop.folder}/marklink/{name}")
+        check(f"companion file {name}", shop.message("get_orders", user="B%FCr%F6%20%80"), wanted)
+
 
 def test_text(server):
     utf8 = "Öl & <Käse> – 5 € \u2603 \U0001F600 \"„“\"\x08\x0b"

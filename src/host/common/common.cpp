@@ -2,6 +2,7 @@
 // into a Boolean or a text. Methods whose work the library does not do answer as failed ones.
 #include "marklink/common.h"
 
+#include "Fenster_einrichten.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
 #include "host/Programmstart.h"
@@ -20,8 +21,19 @@ void Fehlschlag_melden(const QString &Zeile) {
                     Symbol::Stopp);
 }
 
+/// The windows are there as long as any object is: afterwards the host may unload the library.
+int Objekte = 0;
+
 class common_Objekt : public common {
  public:
+  common_Objekt() {
+    ++Objekte;
+    Fenster_einrichten();
+  }
+  ~common_Objekt() override {
+    if (--Objekte == 0) Fenster_abbauen();
+  }
+
   QString Message_Info() override { return QStringLiteral("Schnittstelle für Marklink ab Version 1.0.8"); }
 
   bool Initialisierung(const QString &Firmenname, const QString &Benutzername, const bool & /*Init*/,

@@ -1,0 +1,40 @@
+// The settings dialog "Einstellungen zum Webshop".
+#pragma once
+
+#include <QDialog>
+
+#include "Shopeinstellungen.h"
+
+class QStackedWidget;
+class QTreeWidget;
+class QVBoxLayout;
+
+namespace marklink {
+
+/// `tvwNavigation` on the left, the pages `picWizard` on the right, one widget for each field under the name
+/// of its control. Accepted when the settings were saved.
+class frmEinstellungen : public QDialog {
+  Q_OBJECT
+ public:
+  explicit frmEinstellungen(QWidget *Eltern = nullptr);
+
+ protected:
+  void keyPressEvent(QKeyEvent *Ereignis) override;
+
+ private:
+  void Navigation_fuellen();
+  QWidget *Seite_bauen(Einstellungsseite Seite);
+  void Seitenbefehle_bauen(Einstellungsseite Seite, QVBoxLayout *Zeilen);
+  void Knoepfe_bauen(QVBoxLayout *Zeilen);
+  void Seite_zeigen();
+  void Speichern();
+
+  Shopeinstellungen Einstellungen_;
+  QTreeWidget *tvwNavigation;
+  QStackedWidget *picWizard;
+};
+
+/// Enters the windows of this folder under their names.
+void Shopfenster_anmelden();
+
+}  // namespace marklink

@@ -1,0 +1,98 @@
+// What all windows share.
+#include "clsOberflaeche.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QFocusEvent>
+#include <QLibraryInfo>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QSvgRenderer>
+#include <QTimer>
+#include <QTranslator>
+
+#include "clsDialoge.h"
+#include "frmProgress.h"
+
+// The icons lie in a static library: nothing else would pull them in. Outside of any namespace, as it must
+// be.
+static void Symbole_einbinden() { Q_INIT_RESOURCE(marklink_icons); }
+
+namespace marklink {
+namespace {
+
+struct Anschluesse {
+  clsDialoge Dialoge_;
+  Fenster_Fortschritt Fortschritt_;
+  QTranslator Deutsch;
+};
+std::unique_ptr<Anschluesse> Eingerichtet;
+
+class Feldmarkierer : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject *Objekt, QEvent *Ereignis) override {
+    auto *feld = qobject_cast<QLineEdit *>(Objekt);
+    // Behind the event: the click that gave the focus would clear the selection again.
+    if (feld != nullptr && Ereignis->type() == QEvent::FocusIn)
+      QTimer::singleShot(0, feld, &QLineEdit::selectAll);
+    return QObject::eventFilter(Objekt, Ereignis);
+  }
+};
+
+QPixmap Bild_zeichnen(QSvgRenderer &Svg, int Groesse, const QColor &Farbe) {
+  QPixmap bild(Groesse, Groesse);
+  bild.fill(Qt::transparent);
+  QPainter maler(&bild);
+  Svg.render(&maler);
+  maler.setCompositionMode(QPainter::CompositionMode_SourceIn);
+  maler.fillRect(bild.rect(), Farbe);
+  return bild;
+}
+
+}  // namespace
+
+void Oberflaeche_einrichten() {
+  if (Eingerichtet || qobject_cast<QApplication *>(QCoreApplication::instance()) == nullptr) return;
+  Symbole_einbinden();
+  Eingerichtet = std::make_unique<Anschluesse>();
+  if (Eingerichtet->Deutsch.load(QStringLiteral("qtbase_de"),
+                                 QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QCoreApplication::installTranslator(&Eingerichtet->Deutsch);
+  QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+  Dialoge_setzen(&Eingerichtet->Dialoge_);
+  Fortschritt_setzen(&Eingerichtet->Fortschritt_);
+}
+
+void Oberflaeche_abbauen() {
+  if (!Eingerichtet) return;
+  Dialoge_setzen(nullptr);
+  Fortschritt_setzen(nullptr);
+  Eingerichtet.reset();
+}
+
+QIcon Symbolbild(const QString &Name) {
+  QSvgRenderer svg(QStringLiteral(":/marklink/icons/%1.svg").arg(Name));
+  if (!svg.isValid()) return {};
+  const QPalette palette = QApplication::palette();
+  QIcon bild;
+  for (const int groesse : {16, 24, 32, 48}) {
+    bild.addPixmap(Bild_zeichnen(svg, groesse, palette.color(QPalette::Active, QPalette::ButtonText)));
+    bild.addPixmap(Bild_zeichnen(svg, groesse, palette.color(QPalette::Disabled, QPalette::ButtonText)),
+                   QIcon::Disabled);
+  }
+  return bild;
+}
+
+void Text_markieren(QWidget *Fenster) {
+  auto *markierer = new Feldmarkierer(Fenster);
+  for (QLineEdit *feld : Fenster->findChildren<QLineEdit *>()) feld->installEventFilter(markierer);
+}
+
+}  // namespace marklink

@@ -1,0 +1,25 @@
+// What all windows share: the ports as windows, German texts of Qt, icons, the selection of a field on focus.
+#pragma once
+
+#include <QIcon>
+#include <QObject>
+
+class QWidget;
+
+namespace marklink {
+
+/// Installs dialogs and progress as windows and Qt's own texts in German, once, if this is a program with
+/// windows (QApplication) and the host has installed none of its own. To be called before any window is made.
+void Oberflaeche_einrichten();
+
+/// Takes the ports away again, before the QApplication ends.
+void Oberflaeche_abbauen();
+
+/// An icon of the program's own family (icons/<Name>.svg), in the colour of the text, so that it can be read
+/// on a dark desktop too. Null when there is none.
+QIcon Symbolbild(const QString &Name);
+
+/// From now on the focus in a text field below `Fenster` selects the field's whole text.
+void Text_markieren(QWidget *Fenster);
+
+}  // namespace marklink

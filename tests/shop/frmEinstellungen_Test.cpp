@@ -1,0 +1,164 @@
+// The settings dialog by key and click.
+#include "shop/frmEinstellungen.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTreeWidget>
+
+#include "host/Datenbank.h"
+#include "support/Dialoge_Skript.h"
+#include "support/Fenster_Test.h"
+#include "support/Komponenten_Attrappe.h"
+#include "support/Testmandant.h"
+#include "ui/Hilfe.h"
+
+namespace marklink {
+namespace {
+
+using test::Kind;
+
+int Gezeigtes_Thema = 0;
+
+class frmEinstellungen_Test : public test::Mandant_Test {
+ protected:
+  frmEinstellungen_Test() {
+    Hilfe_setzen([](int Thema) { Gezeigtes_Thema = Thema; });
+  }
+  ~frmEinstellungen_Test() override { Hilfe_setzen(nullptr); }
+
+  static QString Gespeichert(const char *Schluessel) {
+    return Option_lesen(QStringLiteral("Marklink"), QLatin1String(Schluessel));
+  }
+  /// Walks to a page by the arrow keys of the tree.
+  static void Seite(frmEinstellungen &F, int Nummer) {
+    auto &baum = Kind<QTreeWidget>(F, u"tvwNavigation");
+    baum.setFocus();
+    QTest::keyClick(&baum, Qt::Key_Home);
+    for (int i = 0; i <= Nummer; ++i) QTest::keyClick(&baum, Qt::Key_Down);
+    EXPECT_EQ(Kind<QStackedWidget>(F, u"picWizard").currentIndex(), Nummer);
+  }
+  static void Tippen(frmEinstellungen &F, const char16_t *Feld, const QString &Text) {
+    auto &feld = Kind<QLineEdit>(F, Feld);
+    feld.setFocus();
+    QTest::qWait(0);  // the focus selects the old text, which typing replaces
+    QTest::keyClicks(&feld, Text);
+  }
+  test::Dialoge_Skript Skript;
+};
+MARKLINK_BEIDE_TYPEN(frmEinstellungen_Test);
+
+TEST_P(frmEinstellungen_Test, aendern_und_mit_der_Eingabetaste_speichern) {
+  Mandant.Einstellen("Marklink", "autoretrieve", QStringLiteral("1"));
+  Mandant.Einstellen("Marklink", "attributematrix", QStringLiteral("5"));
+  frmEinstellungen f;
+  test::Zeigen(f);
+  EXPECT_EQ(f.windowTitle(), QStringLiteral("Einstellungen zum Webshop"));
+  Tippen(f, u"txtProjektbezeichnung", QStringLiteral("Neuer Laden"));
+  auto &richtung = Kind<QComboBox>(f, u"cboSynchronisierung");
+  richtung.setFocus();
+  QTest::keyClick(&richtung, Qt::Key_Down);
+  Seite(f, 2);
+  EXPECT_TRUE(Kind<QCheckBox>(f, u"chkBestellungsabruf").isChecked());
+  auto &preise = Kind<QCheckBox>(f, u"chkPreisfindung");
+  preise.setFocus();
+  QTest::keyClick(&preise, Qt::Key_Space);
+  Seite(f, 3);
+  Tippen(f, u"txtFTP_Ordner", QStringLiteral("/web"));
+  EXPECT_EQ(Gespeichert("ftpfolder"), QString()) << "nothing is stored before it is saved";
+  QTest::keyClick(&f, Qt::Key_Return);
+  EXPECT_EQ(f.result(), QDialog::Accepted);
+  const std::pair<const char *, const char *> erwartet[] = {
+      {"project", "Neuer Laden"}, {"synchronisation", "1"}, {"articlepricing", "1"},  {"autoretrieve", "1"},
+      {"attributematrix", "5"},   {"ftpfolder", "/web"},    {"disposeproductid", "0"}};
+  for (const auto &[schluessel, wert] : erwartet)
+    EXPECT_EQ(Gespeichert(schluessel), QLatin1String(wert)) << schluessel;
+}
+
+TEST_P(frmEinstellungen_Test, Escape_verwirft_und_F1_hilft) {
+  frmEinstellungen f;
+  test::Zeigen(f);
+  Tippen(f, u"txtProjektbezeichnung", QStringLiteral("verworfen"));
+  QTest::keyClick(&f, Qt::Key_F1);
+  EXPECT_EQ(std::exchange(Gezeigtes_Thema, 0), 1152);
+  QTest::mouseClick(&Kind<QPushButton>(f, u"cmdHilfe"), Qt::LeftButton);
+  EXPECT_EQ(std::exchange(Gezeigtes_Thema, 0), 1152);
+  QTest::keyClick(&f, Qt::Key_Escape);
+  EXPECT_FALSE(f.isVisible());
+  EXPECT_EQ(Gespeichert("project"), QStringLiteral("Test"));
+}
+
+TEST_P(frmEinstellungen_Test, Verbindungstest_gibt_das_Hochladen_frei_und_speichert) {
+  test::Komponenten_Attrappe host;
+  frmEinstellungen f;
+  test::Zeigen(f);
+  Seite(f, 3);
+  Tippen(f, u"txtFTP_Hostname", QStringLiteral("ftp.laden.de"));
+  auto &hochladen = Kind<QPushButton>(f, u"cmdFTP_Upload");
+  const auto testen = [&](bool Gelingt) {
+    host.Vorbereiten({Gelingt});
+    Skript.Erwarten(Gelingt ? QStringLiteral("Hinweis") : QStringLiteral("Fehler"));
+    QTest::mouseClick(&Kind<QPushButton>(f, u"cmdFTP_Verbindungstest"), Qt::LeftButton);
+    return hochladen.isEnabled();
+  };
+  EXPECT_FALSE(hochladen.isEnabled());
+  EXPECT_TRUE(testen(true));
+  Skript.Erwarten(QStringLiteral("Fehler"));
+  QTest::mouseClick(&hochladen, Qt::LeftButton);
+  EXPECT_FALSE(testen(false));
+  QTest::keyClick(&f, Qt::Key_Escape);
+  EXPECT_EQ(Gespeichert("ftphostname"), QStringLiteral("ftp.laden.de")) << "the test has saved already";
+}
+
+TEST_P(frmEinstellungen_Test, was_nicht_zu_zeigen_ist_bleibt_erhalten) {
+  const QString lang = QString(5000, u'x');
+  Mandant.Einstellen("Marklink", "hostname", lang);
+  Mandant.Einstellen("Marklink", "synchronisation", QStringLiteral("7"));
+  const QString vorher = Gespeichert("hostname");
+  frmEinstellungen f;
+  test::Zeigen(f);
+  EXPECT_EQ(Kind<QComboBox>(f, u"cboSynchronisierung").currentIndex(), -1);
+  QTest::mouseClick(&Kind<QPushButton>(f, u"cmdOK"), Qt::LeftButton);
+  EXPECT_EQ(Gespeichert("hostname"), vorher);
+  EXPECT_EQ(Gespeichert("synchronisation"), QStringLiteral("7"));
+}
+
+TEST_P(frmEinstellungen_Test, nichts_ist_abgeschnitten) {
+  const struct {
+    int Schriftgrad;
+    QSize Bildschirm;
+  } faelle[] = {{9, QSize(1280, 800) / 1.5}, {12, QSize(1280, 800)}};
+  for (const auto &fall : faelle) {
+    frmEinstellungen f;
+    QFont schrift = f.font();
+    schrift.setPointSize(fall.Schriftgrad);
+    f.setFont(schrift);
+    f.resize(fall.Bildschirm);
+    test::Zeigen(f);
+    EXPECT_EQ(f.size(), fall.Bildschirm) << "its least size is larger";
+    for (int seite = 0; seite < 4; ++seite) {
+      Seite(f, seite);
+      const auto *blatt = qobject_cast<QScrollArea *>(Kind<QStackedWidget>(f, u"picWizard").currentWidget());
+      EXPECT_EQ(blatt->horizontalScrollBar()->maximum(), 0) << "page " << seite << " at " << fall.Schriftgrad;
+    }
+  }
+}
+
+TEST(frmEinstellungen_Bild, aller_Seiten) {
+  if (qEnvironmentVariableIsEmpty("MARKLINK_BILDER")) return;
+  const test::Testmandant mandant(0);
+  frmEinstellungen f;
+  f.resize(810, 510);
+  for (int seite = 0; seite < 4; ++seite) {
+    auto &baum = Kind<QTreeWidget>(f, u"tvwNavigation");
+    baum.setCurrentItem(baum.topLevelItem(0)->child(seite));
+    test::Bild_machen(f, QStringLiteral("frmEinstellungen_%1").arg(seite + 1));
+  }
+}
+
+}  // namespace
+}  // namespace marklink
