@@ -138,7 +138,7 @@ void clsAuftragsansicht::Anzeigen(const Auftragsanzeige &Anzeige) {
     int nummer = 0;
     for (const auto &spalte : Positionsspalten) {
       if (spalte.Zahl) zeile->setTextAlignment(nummer, Qt::AlignRight | Qt::AlignVCenter);
-      zeile->setToolTip(nummer, zeile->text(nummer).toHtmlEscaped());
+      zeile->setToolTip(nummer, QStringLiteral("<p>%1</p>").arg(zeile->text(nummer).toHtmlEscaped()));
       ++nummer;
     }
   }

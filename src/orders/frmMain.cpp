@@ -85,7 +85,10 @@ frmMain::frmMain(QWidget *Eltern)
   jgTab->setFocus();
 }
 
-frmMain::~frmMain() { Pult_.Liste.Geladen = nullptr; }
+frmMain::~frmMain() {
+  Pult_.Liste.Geladen = nullptr;
+  delete jgTab;  // it shows what Pult_ holds, and an open editor would still write there
+}
 
 void frmMain::Auftragsliste_einrichten() {
   jgTab->setObjectName(QStringLiteral("jgTab"));
@@ -111,7 +114,7 @@ void frmMain::Stati_zeigen() {
     const QIcon bild = Statusbild(Pult_.Tabelle.Statusfarbe(id), palette());
     auto *eintrag = new QTreeWidgetItem(lvwAuftragsstatus, zeile.Spalten);
     eintrag->setIcon(0, bild);
-    eintrag->setToolTip(0, text.toHtmlEscaped());
+    eintrag->setToolTip(0, QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
     eintrag->setCheckState(0, zeile.Markiert ? Qt::Checked : Qt::Unchecked);
     QAction *befehl = mnuStatus_setzen->addAction(bild, QString(text).replace(u'&', QStringLiteral("&&")));
     befehl->setObjectName(QStringLiteral("mnuKontext_Status_setzen_") + id);

@@ -5,6 +5,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "host/Kontext.h"
+
 namespace marklink {
 
 frmWinsock::frmWinsock(Verbindungsauftrag &Auftrag, QWidget *Eltern)
@@ -42,7 +44,11 @@ void frmWinsock::Ausfuehren() {
   accept();
 }
 
-void frmWinsock::reject() { Abgebrochen_ = true; }
+/// Gives up the run behind it too: its progress window cannot be reached while this one is modal.
+void frmWinsock::reject() {
+  Abgebrochen_ = true;
+  Kontext.gAbbrechen = true;
+}
 
 void frmWinsock::Status(const QString &Statustext) {
   if (!Statustext.isEmpty()) lbStatus->setText(Statustext);
