@@ -111,13 +111,13 @@ Zellenspeicher::Zelle Zellenspeicher::Text_ablegen(QByteArrayView Utf8, const Ze
   const auto laenge = static_cast<std::size_t>(Utf8.size());
   // Methods, currency and status repeat from row to row; the text is then shared.
   const bool gleich = Vorige != nullptr && Vorige->Sorte == Art::Text && Vorige->Laenge == neu.Laenge &&
-                      std::memcmp(Vorige->Text, Utf8.data(), laenge) == 0;
+                      (laenge == 0 || std::memcmp(Vorige->Text, Utf8.data(), laenge) == 0);
   if (gleich) {
     neu.Text = Vorige->Text;
     return neu;
   }
   char *platz = Platz_nehmen(laenge);
-  std::memcpy(platz, Utf8.data(), laenge);
+  if (laenge > 0) std::memcpy(platz, Utf8.data(), laenge);  // an empty text may have no place at all
   neu.Text = platz;
   return neu;
 }
