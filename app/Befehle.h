@@ -46,7 +46,6 @@ const std::vector<Optionsbeschreibung> &Allgemeine_Optionen();
 const Befehl *Befehl_suchen(const QString &Gruppe, const QString &Unterbefehl);
 
 // --- what runs them
-// ---------------------------------------------------------------------------------------------
 
 int Befehl_Mandant_anlegen(const Aufruf &A);
 int Befehl_Mandant_demo(const Aufruf &A);

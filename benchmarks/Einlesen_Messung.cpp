@@ -26,7 +26,6 @@ constexpr int LAENDER = 30;
 constexpr int ARTEN = 12;
 
 // --- the reply
-// ---------------------------------------------------------------------------------------------------
 
 QString Anschrift(const char *Knoten, int n) {
   return QStringLiteral(
@@ -97,7 +96,6 @@ bool Antwort_schreiben(const QString &Pfad, int Anzahl) {
 }
 
 // --- the client
-// --------------------------------------------------------------------------------------------------
 
 void Mandant_einstellen(const QString &Datenbank) {
   Kontext.gFirmenname = QStringLiteral("Messung");
@@ -132,7 +130,6 @@ bool Datenbank_vorbereiten(const QString &Pfad) {
 }
 
 // --- one run in a process of its own
-// -----------------------------------------------------------------------------
 
 struct Messwert {
   int Zeilen = -1;
@@ -189,7 +186,6 @@ Messwert Teil_messen(const char *Art, const QByteArray &Antwort, const QByteArra
 }
 
 // --- the measurement
-// ---------------------------------------------------------------------------------------------
 
 struct Reihe {
   const char *Titel;

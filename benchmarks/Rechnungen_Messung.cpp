@@ -106,7 +106,6 @@ Messwert Teil_messen(const char *Art, const QString &Ordner, int Typ, int Bestel
 }
 
 // --- the measurement
-// ----------------------------------------------------------------------------------------
 
 struct Reihe {
   const char *Titel, *Art, *Buecher;

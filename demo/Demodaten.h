@@ -16,7 +16,6 @@ using Cent = qint64;       ///< hundredths of the currency named beside it
 using Feinpreis = qint64;  ///< net prices as the shop keeps them: ten-thousandths of a euro
 
 // --- articles
-// ---------------------------------------------------------------------------------------------------
 
 struct Kategorie {
   int Id;
@@ -76,7 +75,6 @@ using Kombination = std::vector<const Auswahl *>;
 std::vector<Kombination> Kombinationen(const Artikel &A);
 
 // --- customers
-// ----------------------------------------------------------------------------------------------------
 
 enum Gruppe { Admin = 0, Gast = 1, Neuer_Kunde = 2, Haendler = 3, Haendler_EU = 4, Stammkunde = 5 };
 constexpr int Gruppen = 6;
@@ -130,7 +128,6 @@ struct Kunde {
 };
 
 // --- orders
-// -------------------------------------------------------------------------------------------------------
 
 struct Positionsoption {
   QString Option, Wert;
@@ -191,7 +188,6 @@ struct Bestellstatus {
 const std::vector<Bestellstatus> &Bestellstati();
 
 // --- all together
-// ---------------------------------------------------------------------------------------------------
 
 struct Demodaten {
   QDate Heute;

@@ -34,7 +34,6 @@ class MARKLINK_EXPORT common {
                                const bool &Init = true, const bool &ShowMessage = true) = 0;
 
   // --- screens, shown modally
-  // -----------------------------------------------------------------------------------
   virtual void Show_Einstellungen() = 0;
   virtual void Show_Wizard() = 0;
   virtual void Show_Main() = 0;
@@ -44,7 +43,6 @@ class MARKLINK_EXPORT common {
   virtual bool Show_Artikelverwaltung_Varianten(const QString &Artikelnummer) = 0;
 
   // --- single articles
-  // ------------------------------------------------------------------------------------------
   /// Whether the host's article exists for the shop.
   virtual bool Artikel_existiert_varda(const QString &Artikelnummer) = 0;
   /// Whether the article exists in the shop.
@@ -55,7 +53,6 @@ class MARKLINK_EXPORT common {
   virtual void Artikel_erzeugen_xtc(const QString &Artikelnummer) = 0;
 
   // --- screens with a result
-  // --------------------------------------------------------------------------------------
   /// The attribute list after editing; empty when the user cancelled.
   virtual QString Show_Kategorie(const QString &Kategorie_ID, const QString &Attributwerte,
                                  const QString &Webshop_ID) = 0;
@@ -66,7 +63,6 @@ class MARKLINK_EXPORT common {
                                   const bool &Variante = false) = 0;
 
   // --- whole runs
-  // -------------------------------------------------------------------------------------------------
   virtual void Artikel_synchronisieren_xtc() = 0;
   virtual void Artikel_synchronisieren_varda() = 0;
   virtual void Kunden_synchronisieren_varda() = 0;

@@ -34,7 +34,6 @@ void Verbindungen_schliessen(const QString &Verbindung = {});
 bool Datenbank_anlegen(const QString &Verbindung);
 
 // --- seams for tests
-// ------------------------------------------------------------------------------------------
 
 /// Called with the joined text of every statement before it is run, and with "BEGIN"/"COMMIT"-like marks for
 /// batches; each row sent by a batch gives an "INSERT INTO T"/"UPDATE T"/"DELETE FROM T" line. An empty

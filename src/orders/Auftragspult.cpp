@@ -10,6 +10,7 @@
 #include "host/Kontext.h"
 #include "host/Programmstart.h"
 #include "host/Zahlen.h"
+#include "shipping/Versandauftrag.h"
 #include "ui/Dialoge.h"
 
 namespace marklink {
@@ -27,6 +28,12 @@ void Hinweis(const QStringList &Zeilen) {
   dialoge().Meldung(QStringLiteral("Hinweis"), Zeilen, Symbol::Information);
 }
 
+/// An empty cell counts as 0.
+bool Ist_null(const QVariant &Zelle) {
+  const QString text = Zelle.toString().trimmed();
+  return text.isEmpty() || Zahl_deutsch(text) == 0.0;
+}
+
 }  // namespace
 
 void Auftragspult::Oeffnen() {
@@ -36,7 +43,7 @@ void Auftragspult::Oeffnen() {
 
 void Auftragspult::Auftragsstati_laden() {
   const QStringList markiert = Zeilen_markierte(Liste.lvwAuftragsstatus, SPALTE_WEBSHOPID);
-  gAuftragsstati_Liste = Auftragsstati_initialisieren(Liste.lvwAuftragsstatus);
+  Auftragsstati_initialisieren(Liste.lvwAuftragsstatus);
   for (Listenzeile &zeile : Liste.lvwAuftragsstatus.Zeilen)
     zeile.Markiert = markiert.contains(zeile.Spalten.value(SPALTE_WEBSHOPID));
   Tabelle.Auftragsstati_einfaerben(gAuftragsstati_Liste);
@@ -85,25 +92,9 @@ void Auftragspult::Kunden() {
     Kunden_anlegen(Liste);
 }
 
-void Auftragspult::Stapel(const std::function<void()> &Lauf) {
-  bool geladen = false;
-  const std::function<void()> vorher = Liste.Geladen;
-  Liste.Geladen = [&] {
-    geladen = true;
-    if (vorher) vorher();
-  };
-  Lauf();
-  Liste.Geladen = vorher;
-  if (!geladen) Liste.Auftragsliste_laden();
-}
+void Auftragspult::Auftrag() { Belege_erzeugen(Stapel_Auftraege, Liste); }
 
-void Auftragspult::Auftrag() {
-  Stapel([this] { Belege_erzeugen(Stapel_Auftraege, Liste); });
-}
-
-void Auftragspult::Rechnung() {
-  Stapel([this] { Belege_erzeugen(Stapel_Rechnungen, Liste); });
-}
+void Auftragspult::Rechnung() { Belege_erzeugen(Stapel_Rechnungen, Liste); }
 
 void Auftragspult::Einstellung() {
   dialoge().Schirm_zeigen(QStringLiteral("frmEinstellungen"));
@@ -138,6 +129,28 @@ void Auftragspult::mnuKontext_Status_Dialog() {
 }
 
 void Auftragspult::mnuKontext_Status_setzen(const QString &Status) { Status_setzen(Liste, Status); }
+
+void Auftragspult::mnuKontext_Versender() {
+  const QString bestellung = Aktuelle_Bestellung();
+  if (bestellung.isEmpty()) return;
+  const int zeile = Liste.AktuelleZeile();
+  if (!Ist_null(Liste.Zelle(zeile, "Logistic"))) {
+    Hinweis({QStringLiteral("Die Bestellung wurde bereits an den Versand übergeben.")});
+    return;
+  }
+  const QString referenz = dialoge().Eingabe(
+      QStringLiteral("Referenznummer eingeben"),
+      QStringLiteral("Geben Sie bitte eine eindeutige Referenznummer für den Versand ein."), QString());
+  if (referenz.isEmpty()) {
+    Hinweis({QStringLiteral("Sie haben leider keine Referenznummer vergeben."),
+             QStringLiteral("Die Bestellung kann nicht an den Versand übergeben werden.")});
+    return;
+  }
+  Versandauftrag auftrag{bestellung, referenz};
+  auftrag.Zahlart = Liste.Zelle(zeile, "Payment").toString();
+  auftrag.Meldung_zeigen = true;
+  Versandauftrag_erzeugen(auftrag);
+}
 
 void Auftragspult::mnuKontext_Rechnungscheck() {
   const QString bestellung = Aktuelle_Bestellung();

@@ -61,8 +61,6 @@ class Auftragspult {
   void Zeitraum_waehlen(int Zeitraum);
 
  private:
-  /// A run that loads the list when it ends, as far as it came: the list is loaded in any case.
-  void Stapel(const std::function<void()> &Lauf);
   QString Aktuelle_Bestellung() const;
 };
 

@@ -1,7 +1,5 @@
-// Commands by their keys, and the hand-over to the shipper.
+// Commands by their keys.
 #include "Auftragspult.h"
-#include "host/Zahlen.h"
-#include "shipping/Versandauftrag.h"
 #include "ui/Dialoge.h"
 
 namespace marklink {
@@ -43,12 +41,6 @@ constexpr struct {
     {"einstellungen_artikelvorlagen_optionen", "frmListen_Artikelvorlagen_Optionen"},
 };
 
-/// An empty cell counts as 0.
-bool Ist_null(const QVariant &Zelle) {
-  const QString text = Zelle.toString().trimmed();
-  return text.isEmpty() || Zahl_deutsch(text) == 0.0;
-}
-
 }  // namespace
 
 bool Auftragspult::Befehl(const QString &Schluessel) {
@@ -64,31 +56,6 @@ bool Auftragspult::Befehl(const QString &Schluessel) {
     return true;
   }
   return false;
-}
-
-void Auftragspult::mnuKontext_Versender() {
-  const QString bestellung = Aktuelle_Bestellung(), hinweis = QStringLiteral("Hinweis");
-  if (bestellung.isEmpty()) return;
-  const int zeile = Liste.AktuelleZeile();
-  if (!Ist_null(Liste.Zelle(zeile, "Logistic"))) {
-    dialoge().Meldung(hinweis, {QStringLiteral("Die Bestellung wurde bereits an den Versand übergeben.")},
-                      Symbol::Information);
-    return;
-  }
-  const QString referenz = dialoge().Eingabe(
-      QStringLiteral("Referenznummer eingeben"),
-      QStringLiteral("Geben Sie bitte eine eindeutige Referenznummer für den Versand ein."), QString());
-  if (referenz.isEmpty()) {
-    dialoge().Meldung(hinweis,
-                      {QStringLiteral("Sie haben leider keine Referenznummer vergeben."),
-                       QStringLiteral("Die Bestellung kann nicht an den Versand übergeben werden.")},
-                      Symbol::Information);
-    return;
-  }
-  Versandauftrag auftrag{bestellung, referenz};
-  auftrag.Zahlart = Liste.Zelle(zeile, "Payment").toString();
-  auftrag.Meldung_zeigen = true;
-  Versandauftrag_erzeugen(auftrag);
 }
 
 }  // namespace marklink

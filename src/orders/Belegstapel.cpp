@@ -35,6 +35,7 @@ void Belege_erzeugen(int Art, Auftragsliste &Liste, const Belegmeldung &Ergebnis
     if (Art == Stapel_Rechnungen) ergebnis = Rechnung_erzeugen(vorgabe);
     if (Ergebnis) Ergebnis(Zeile, kunde, ergebnis);
   };
+  lauf.Immer_laden = true;  // the order desk does so behind these runs, however they end
   Markierte_abarbeiten(Liste, lauf);
 }
 

@@ -10,6 +10,7 @@
 
 #include "articles/clsBildfeld.h"
 #include "articles/frmBild.h"
+#include "ui/clsOberflaeche.h"
 
 namespace marklink {
 
@@ -138,7 +139,7 @@ void clsAuftragsansicht::Anzeigen(const Auftragsanzeige &Anzeige) {
     int nummer = 0;
     for (const auto &spalte : Positionsspalten) {
       if (spalte.Zahl) zeile->setTextAlignment(nummer, Qt::AlignRight | Qt::AlignVCenter);
-      zeile->setToolTip(nummer, QStringLiteral("<p>%1</p>").arg(zeile->text(nummer).toHtmlEscaped()));
+      zeile->setToolTip(nummer, Hinweistext(zeile->text(nummer)));
       ++nummer;
     }
   }

@@ -114,7 +114,7 @@ void frmMain::Stati_zeigen() {
     const QIcon bild = Statusbild(Pult_.Tabelle.Statusfarbe(id), palette());
     auto *eintrag = new QTreeWidgetItem(lvwAuftragsstatus, zeile.Spalten);
     eintrag->setIcon(0, bild);
-    eintrag->setToolTip(0, QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
+    eintrag->setToolTip(0, Hinweistext(text));
     eintrag->setCheckState(0, zeile.Markiert ? Qt::Checked : Qt::Unchecked);
     QAction *befehl = mnuStatus_setzen->addAction(bild, QString(text).replace(u'&', QStringLiteral("&&")));
     befehl->setObjectName(QStringLiteral("mnuKontext_Status_setzen_") + id);
@@ -138,7 +138,6 @@ void frmMain::Zeitraum_zeigen() {
 }
 
 // --- commands
-// -------------------------------------------------------------------------------------------------------
 
 void frmMain::Ausfuehren(const std::function<void()> &Tun) {
   if (Beschaeftigt_ || Kontext.gLaeuft || !jgTab->Bearbeitung_abschliessen()) return;
@@ -169,7 +168,6 @@ void frmMain::Tabelle_formatieren() {
 }
 
 // --- rows
-// -----------------------------------------------------------------------------------------------------------
 
 void frmMain::Liste_geladen() {
   jgTab->Neu_laden();
@@ -192,7 +190,6 @@ void frmMain::Anzahl_zeigen() {
 }
 
 // --- events
-// ---------------------------------------------------------------------------------------------------------
 
 void frmMain::showEvent(QShowEvent *Ereignis) {
   QMainWindow::showEvent(Ereignis);
@@ -262,7 +259,6 @@ bool frmMain::eventFilter(QObject *Objekt, QEvent *Ereignis) {
 }
 
 // --- by name
-// --------------------------------------------------------------------------------------------------------
 
 void frmMain::Zeigen() {
   if (Offen != nullptr) {

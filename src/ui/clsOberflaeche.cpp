@@ -2,9 +2,6 @@
 #include "clsOberflaeche.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QFile>
-#include <QFocusEvent>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QLocale>
@@ -88,6 +85,11 @@ QIcon Symbolbild(const QString &Name) {
                    QIcon::Disabled);
   }
   return bild;
+}
+
+QString Hinweistext(const QString &Text) {
+  if (Text.isEmpty()) return {};
+  return QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(Text.toHtmlEscaped());
 }
 
 void Text_markieren(QWidget *Fenster) {

@@ -3,6 +3,7 @@
 
 #include <QIcon>
 #include <QObject>
+#include <QString>
 
 class QWidget;
 
@@ -18,6 +19,9 @@ void Oberflaeche_abbauen();
 /// An icon of the program's own family (icons/<Name>.svg), in the colour of the text, so that it can be read
 /// on a dark desktop too. Null when there is none.
 QIcon Symbolbild(const QString &Name);
+
+/// A text as a tooltip that shows it letter by letter, line breaks included; empty for an empty text.
+QString Hinweistext(const QString &Text);
 
 /// From now on the focus in a text field below `Fenster` selects the field's whole text.
 void Text_markieren(QWidget *Fenster);

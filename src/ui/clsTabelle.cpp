@@ -131,7 +131,6 @@ bool clsTabelle::Bearbeitung_verwerfen() {
 }
 
 // --- the layout
-// -------------------------------------------------------------------------------------------------
 
 double clsTabelle::Pixel_je_Einheit() const { return logicalDpiX() / Zentimeter_je_Zoll / Breite_je_cm; }
 

@@ -8,8 +8,6 @@
 
 namespace marklink {
 
-// -----------------------------------------------------------------------------------
-
 bool clsTabelle::Darf_nach(int Zeile) {
   if (!currentIndex().isValid() || Zeile == currentIndex().row() || !Modell_->Zeile_offen()) return true;
   return Bearbeitung_abschliessen();

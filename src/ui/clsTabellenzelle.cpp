@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "clsOberflaeche.h"
 #include "clsTabelle.h"
 
 namespace marklink {
@@ -117,9 +118,7 @@ bool clsTabellenzelle::helpEvent(QHelpEvent *Ereignis, QAbstractItemView *Ansich
   const QString text = Stelle.data(Qt::DisplayRole).toString();
   const bool ganz = !text.contains(u'\n') && text.size() < Laengster_Text &&
                     Ansicht->fontMetrics().horizontalAdvance(text) + 8 <= Form.rect.width();
-  const QString hinweis =
-      QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(text.left(4000).toHtmlEscaped());
-  QToolTip::showText(Ereignis->globalPos(), ganz ? QString() : hinweis, Ansicht);
+  QToolTip::showText(Ereignis->globalPos(), ganz ? QString() : Hinweistext(text.left(4000)), Ansicht);
   return true;
 }
 

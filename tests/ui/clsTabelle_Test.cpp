@@ -207,7 +207,6 @@ TEST_F(Listentabelle_Test, Anordnung_ueberlebt_Laden_und_Ziehen) {
 }
 
 // --- the order desk's kind of grid
-// ----------------------------------------------------------------------------
 
 class Auftragstabelle_Test : public test::Mandant_Test {
  protected:
