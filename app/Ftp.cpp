@@ -100,6 +100,7 @@ class Ftpabruf {
  private:
   void Anmelden(const Ftpanmeldung &A) {
     Einstellen(CURLOPT_URL, Url_.constData());
+    Einstellen(CURLOPT_PATH_AS_IS, 1L);  // ".." means the server's parent folder, not a shorter path
     Einstellen(CURLOPT_USERNAME, Nach_1252(A.Benutzer).constData());
     Einstellen(CURLOPT_PASSWORD, Nach_1252(A.Passwort).constData());
   }

@@ -20,7 +20,7 @@ class clsImage {
   qint32 Height() const { return Height_; }
   qint32 Depth() const { return Depth_; }  ///< bits a pixel
   qint32 ImageType() const { return Type_; }
-  qint64 FileSize() const { return Bytes_.size(); }
+  qint64 FileSize() const { return Type_ == Unbekannt ? 0 : Bytes_.size(); }
 
  private:
   void PNG_lesen();

@@ -67,9 +67,9 @@ void frmListen::Tabelle_einrichten() {
 
 void frmListen::Kontextmenue_bauen() {
   mnuKontext->setObjectName(QStringLiteral("mnuKontext"));
-  QAction *loeschen = mnuKontext->addAction(QStringLiteral("Löschen"), this, &frmListen::Loeschen);
+  QAction *loeschen = mnuKontext->addAction(QStringLiteral("&Löschen"), this, &frmListen::Loeschen);
   loeschen->setObjectName(QStringLiteral("mnuKontext_Loeschen"));
-  QAction *formatieren = mnuKontext->addAction(QStringLiteral("Tabelle formatieren"), this, [this] {
+  QAction *formatieren = mnuKontext->addAction(QStringLiteral("Tabelle &formatieren"), this, [this] {
     frmTabelle_Formatieren(*jgTab, Pflege_.Was().Layout, false, false, this).exec();
   });
   formatieren->setObjectName(QStringLiteral("mnuKontext_Tabelle_formatieren"));
@@ -89,9 +89,9 @@ QHBoxLayout *frmListen::Knoepfe_bauen() {
     reihe->addWidget(neu);
     return neu;
   };
-  knopf("cmdOK", QStringLiteral("OK"), &frmListen::accept)->setDefault(true);
-  knopf("cmdAbbrechen", QStringLiteral("Abbrechen"), &frmListen::reject);
-  knopf("cmdHilfe", QStringLiteral("Hilfe"), [this] { Hilfe_zeigen(Pflege_.Was().Hilfethema); });
+  knopf("cmdOK", QStringLiteral("&OK"), &frmListen::accept)->setDefault(true);
+  knopf("cmdAbbrechen", QStringLiteral("&Abbrechen"), &frmListen::reject);
+  knopf("cmdHilfe", QStringLiteral("&Hilfe"), [this] { Hilfe_zeigen(Pflege_.Was().Hilfethema); });
   return reihe;
 }
 

@@ -60,7 +60,7 @@ void frmWinsock::Verbunden(bool Ja) {
   shpConnected->setStyleSheet(
       QStringLiteral("border-radius: %1px; background: %2; border: 1px solid palette(mid);")
           .arg(groesse / 2)
-          .arg(Ja ? QStringLiteral("#2e9e44") : QStringLiteral("#b3b3b3")));
+          .arg(Ja ? QStringLiteral("#00ff00") : QStringLiteral("#ff0000")));
   shpConnected->setToolTip(Ja ? QStringLiteral("verbunden") : QStringLiteral("nicht verbunden"));
 }
 

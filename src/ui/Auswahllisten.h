@@ -9,8 +9,9 @@
 namespace marklink {
 
 /// What a box is to offer: the empty entry, "Liste bearbeiten...", then the values of `Anzeigefeld` of
-/// SELECT DISTINCT `Feld` FROM `Tabelle` `Bedingung`. A failed query leaves the values out.
-QStringList Auswahlliste_lesen(const QString &Tabelle, const QString &Feld, const QString &Anzeigefeld,
+/// SELECT DISTINCT `Felder` (one or more, with commas) FROM `Tabelle` `Bedingung`. A failed query leaves the
+/// values out.
+QStringList Auswahlliste_lesen(const QString &Tabelle, const QString &Felder, const QString &Anzeigefeld,
                                const db::Anweisung &Bedingung, bool Bearbeiten, bool Leer);
 
 /// The field of the first row that has `standard` set; empty without one.

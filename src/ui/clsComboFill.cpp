@@ -9,12 +9,13 @@
 
 namespace marklink {
 
-void Auswahlliste_fuellen(QComboBox &Box, const QString &Tabelle, const QString &Feld,
+void Auswahlliste_fuellen(QComboBox &Box, const QString &Tabelle, const QString &Felder,
                           const QString &Anzeigefeld, const db::Anweisung &Bedingung, bool Bearbeiten,
                           bool Leer) {
-  const QStringList liste = Auswahlliste_lesen(Tabelle, Feld, Anzeigefeld, Bedingung, Bearbeiten, Leer);
+  const QStringList liste = Auswahlliste_lesen(Tabelle, Felder, Anzeigefeld, Bedingung, Bearbeiten, Leer);
   Box.clear();
   Box.addItems(liste);
+  Box.setCurrentIndex(-1);  // nothing is chosen yet
 }
 
 clsComboFill *clsComboFill::Anschliessen(QComboBox &Box) {
@@ -23,8 +24,13 @@ clsComboFill *clsComboFill::Anschliessen(QComboBox &Box) {
   Box.setCompleter(nullptr);
   // What was typed must not become an entry of the list.
   Box.setInsertPolicy(QComboBox::NoInsert);
-  Box.lineEdit()->installEventFilter(ergaenzer);
-  connect(&Box, &QComboBox::editTextChanged, ergaenzer, [ergaenzer, &Box] { ergaenzer->Aenderung(Box); });
+  // The box has the focus and hands its keys on to the line: a filter of the line would not see them.
+  Box.installEventFilter(ergaenzer);
+  // Typed changes only: an entry that was picked must not become another one.
+  connect(Box.lineEdit(), &QLineEdit::textEdited, ergaenzer, [ergaenzer, &Box] {
+    ergaenzer->Aenderung(Box);
+    ergaenzer->SupressKeyStroke = false;  // the proposal is no typed change
+  });
   return ergaenzer;
 }
 

@@ -10,7 +10,7 @@ class QComboBox;
 namespace marklink {
 
 /// Clears the box and fills it as Auswahlliste_lesen() says.
-void Auswahlliste_fuellen(QComboBox &Box, const QString &Tabelle, const QString &Feld,
+void Auswahlliste_fuellen(QComboBox &Box, const QString &Tabelle, const QString &Felder,
                           const QString &Anzeigefeld, const db::Anweisung &Bedingung, bool Bearbeiten,
                           bool Leer);
 

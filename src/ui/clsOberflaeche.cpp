@@ -2,6 +2,7 @@
 #include "clsOberflaeche.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QLocale>
@@ -36,10 +37,17 @@ class Feldmarkierer : public QObject {
  protected:
   bool eventFilter(QObject *Objekt, QEvent *Ereignis) override {
     auto *feld = qobject_cast<QLineEdit *>(Objekt);
-    // Behind the event: the click that gave the focus would clear the selection again.
-    if (feld != nullptr && Ereignis->type() == QEvent::FocusIn)
+    // Behind the event: the click that gave the focus would clear the selection again. Back from a menu or
+    // another window the text is as it was left.
+    if (feld != nullptr && Ereignis->type() == QEvent::FocusIn && Neu_betreten(*Ereignis))
       QTimer::singleShot(0, feld, &QLineEdit::selectAll);
     return QObject::eventFilter(Objekt, Ereignis);
+  }
+
+ private:
+  static bool Neu_betreten(const QEvent &Ereignis) {
+    const Qt::FocusReason grund = static_cast<const QFocusEvent &>(Ereignis).reason();
+    return grund != Qt::PopupFocusReason && grund != Qt::ActiveWindowFocusReason;
   }
 };
 

@@ -63,6 +63,7 @@ class clsTabelle : public QTableView {
 
  protected:
   void mousePressEvent(QMouseEvent *Ereignis) override;
+  void mouseMoveEvent(QMouseEvent *Ereignis) override;
   void mouseReleaseEvent(QMouseEvent *Ereignis) override;
   void keyPressEvent(QKeyEvent *Ereignis) override;
   void contextMenuEvent(QContextMenuEvent *Ereignis) override;

@@ -22,6 +22,11 @@ void clsTabelle::mousePressEvent(QMouseEvent *Ereignis) {
   QTableView::mousePressEvent(Ereignis);
 }
 
+/// Dragging must not leave a row whose edit is not ended.
+void clsTabelle::mouseMoveEvent(QMouseEvent *Ereignis) {
+  if (Ereignis->buttons() == Qt::NoButton || !Modell_->Zeile_offen()) QTableView::mouseMoveEvent(Ereignis);
+}
+
 /// A click on the cell in which the cursor already stood opens its editor.
 void clsTabelle::mouseReleaseEvent(QMouseEvent *Ereignis) {
   QTableView::mouseReleaseEvent(Ereignis);
@@ -67,7 +72,8 @@ void clsTabelle::keyPressEvent(QKeyEvent *Ereignis) {
       return;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
-      if (strg) focusNextPrevChild(Ereignis->key() == Qt::Key_Tab);
+      if (!strg) break;
+      QAbstractScrollArea::focusNextPrevChild(Ereignis->key() == Qt::Key_Tab);
       return;
     case Qt::Key_F4:
     case Qt::Key_Down:

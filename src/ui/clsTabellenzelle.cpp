@@ -95,6 +95,8 @@ bool clsTabellenzelle::editorEvent(QEvent *Ereignis, QAbstractItemModel *Modell,
   const bool klick = art == QEvent::MouseButtonRelease || art == QEvent::MouseButtonDblClick;
   const auto *maus = klick ? static_cast<QMouseEvent *>(Ereignis) : nullptr;
   if (maus != nullptr && maus->button() != Qt::LeftButton) return false;
+  if (maus != nullptr && maus->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier))
+    return false;  // selects
   if (maus != nullptr && Auf_Knopf(Stelle, Form.rect, maus->position().toPoint())) {
     Editor_schliessen(true);
     if (art == QEvent::MouseButtonRelease) Q_EMIT Knopf_gedrueckt(Stelle);

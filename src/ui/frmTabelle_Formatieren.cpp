@@ -42,10 +42,11 @@ frmTabelle_Formatieren::frmTabelle_Formatieren(clsTabelle &Tabelle, const QStrin
       cmdAuf(Benannt(new QPushButton(QStringLiteral("Nach &oben"), this), u"cmdAuf")),
       cmdAb(Benannt(new QPushButton(QStringLiteral("Nach &unten"), this), u"cmdAb")),
       fraSpalte(Benannt(new QGroupBox(this), u"fraSpalte")),
-      chkAktiv(Benannt(new QCheckBox(QStringLiteral("Spalte in der Tabelle aktivieren")), u"chkAktiv")),
-      txtSpaltenbreite(Benannt(new QLineEdit, u"txtSpaltenbreite")),
-      cboSpaltentyp(Benannt(new QComboBox, u"cboSpaltentyp")),
-      cmdSpeichern(Benannt(new QPushButton(QStringLiteral("&Speichern")), u"cmdSpeichern")),
+      chkAktiv(Benannt(new QCheckBox(QStringLiteral("Spalte in der Tabelle akti&vieren"), fraSpalte),
+                       u"chkAktiv")),
+      txtSpaltenbreite(Benannt(new QLineEdit(fraSpalte), u"txtSpaltenbreite")),
+      cboSpaltentyp(Benannt(new QComboBox(fraSpalte), u"cboSpaltentyp")),
+      cmdSpeichern(Benannt(new QPushButton(QStringLiteral("&Speichern"), fraSpalte), u"cmdSpeichern")),
       cmdOK(Benannt(new QPushButton(QStringLiteral("OK"), this), u"cmdOK")),
       cmdAbbrechen(Benannt(new QPushButton(QStringLiteral("Abbrechen"), this), u"cmdAbbrechen")) {
   setObjectName(QStringLiteral("frmTabelle_Formatieren"));
@@ -94,9 +95,6 @@ void frmTabelle_Formatieren::Aufbauen() {
   felder->setColumnStretch(2, 1);
   txtSpaltenbreite->setMaximumWidth(fontMetrics().averageCharWidth() * 14);
   txtSpaltenbreite->setAlignment(Qt::AlignRight);
-  cmdSpeichern->setAutoDefault(false);
-  cmdAuf->setAutoDefault(false);
-  cmdAb->setAutoDefault(false);
   cmdOK->setDefault(true);
 
   auto *reihenfolge = new QVBoxLayout;

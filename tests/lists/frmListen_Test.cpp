@@ -64,6 +64,22 @@ class frmListen_Test : public test::Mandant_Test {
 };
 MARKLINK_BEIDE_TYPEN(frmListen_Test);
 
+TEST_P(frmListen_Test, die_Tastatur_erreicht_jede_Zelle_und_OK) {
+  Klick(0, 0);
+  Taste(Qt::Key_Escape);
+  const QModelIndex vorher = Grid().currentIndex();
+  Taste(Qt::Key_Tab);
+  EXPECT_NE(Grid().currentIndex(), vorher);
+  EXPECT_TRUE(Grid().hasFocus());
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_TRUE(test::Kind<QPushButton>(*Fenster, u"cmdOK").hasFocus());
+  // With Ctrl or Shift a click selects and turns no mark over.
+  QTest::mouseClick(Grid().viewport(), Qt::LeftButton, Qt::ControlModifier,
+                    test::Mitte(Grid(), 1, Grid().Spalte_finden(u"Standard"_qs)));
+  Klick(u"cmdOK");
+  EXPECT_EQ(Tabelle(), u"1Offen0 2Versendet0"_qs);
+}
+
 TEST_P(frmListen_Test, neue_Zeile_Standard_und_Farbe_mit_OK) {
   const QAbstractItemModelTester pruefer(Grid().model(),
                                          QAbstractItemModelTester::FailureReportingMode::Fatal);

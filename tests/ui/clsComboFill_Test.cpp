@@ -18,23 +18,27 @@ TEST(clsComboFill_Test, ergaenzt_was_getippt_wird) {
   box.clearEditText();
   test::Zeigen(box);
   QLineEdit &feld = *box.lineEdit();
-  QTest::keyClicks(&feld, QStringLiteral("st"));
+  QTest::keyClicks(&box, QStringLiteral("st"));
   EXPECT_EQ(feld.text(), QStringLiteral("stück"));  // what was typed stays as it was typed
   EXPECT_EQ(feld.selectedText(), QStringLiteral("ück"));
-  QTest::keyClicks(&feld, QStringLiteral("u"));  // replaces the proposal
+  QTest::keyClicks(&box, QStringLiteral("u"));  // replaces the proposal
   EXPECT_EQ(feld.text(), QStringLiteral("stunde"));
   EXPECT_EQ(feld.selectedText(), QStringLiteral("nde"));
-  QTest::keyClick(&feld, Qt::Key_Backspace);
+  QTest::keyClick(&box, Qt::Key_Backspace);
   EXPECT_EQ(feld.text(), QStringLiteral("stu"));
-  QTest::keyClicks(&feld, QStringLiteral("n"));
+  QTest::keyClicks(&box, QStringLiteral("n"));
   EXPECT_EQ(feld.text(), QStringLiteral("stunde"));
   feld.selectAll();
-  QTest::keyClick(&feld, Qt::Key_Delete);
+  QTest::keyClick(&box, Qt::Key_Delete);
   EXPECT_EQ(feld.text(), QString());
-  QTest::keyClicks(&feld, QStringLiteral("kg"));  // an entry as it is
+  QTest::keyClicks(&box, QStringLiteral("kg"));  // an entry as it is
   EXPECT_FALSE(feld.hasSelectedText());
-  QTest::keyClicks(&feld, QStringLiteral("x"));
+  QTest::keyClicks(&box, QStringLiteral("x"));
   EXPECT_EQ(feld.text(), QStringLiteral("kgx"));
+  // A picked entry stays, whatever begins with it.
+  box.insertItem(0, QStringLiteral("kg netto"));
+  box.setCurrentIndex(3);
+  EXPECT_EQ(feld.text(), QStringLiteral("kg"));
 }
 
 class Auswahllisten_Test : public test::Mandant_Test {};
@@ -58,8 +62,12 @@ TEST_P(Auswahllisten_Test, fuellt_und_findet_den_Standard) {
   };
   Auswahlliste_fuellen(box, tabelle, feld, feld, "ORDER BY Description", true, true);
   EXPECT_EQ(inhalt(), QStringLiteral("|Liste bearbeiten...|Karton|Palette|Stück"));
+  EXPECT_EQ(box.currentIndex(), -1);
   Auswahlliste_fuellen(box, tabelle, feld, feld, "WHERE Description = 'Karton'", false, false);
   EXPECT_EQ(inhalt(), QStringLiteral("Karton"));
+  Auswahlliste_fuellen(box, tabelle, QStringLiteral("Standard, Description"), feld,
+                       "WHERE Description <> 'Karton'", false, false);
+  EXPECT_EQ(inhalt(), QStringLiteral("Palette|Stück"));
   // A table that is not there leaves the box as far as it was filled.
   Auswahlliste_fuellen(box, QStringLiteral("Fehlt"), feld, feld, {}, true, false);
   EXPECT_EQ(inhalt(), QStringLiteral("Liste bearbeiten..."));
