@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 
+#include "Ersatzbild.h"
 #include "Hostkonfiguration.h"
 #include "Mandantenliste.h"
 #include "Ruecknahme.h"
@@ -198,6 +199,7 @@ QString Im_Ordner_anlegen(const Mandantenplan &Plan, Ruecknahme &Zurueck) {
         .arg(Plan.Ordner);
   if (!Shopscript_bereitlegen(Plan.Ordner, Zurueck))
     return QStringLiteral("Das Shopscript kann nicht in den Ordner '%1' gelegt werden.").arg(Plan.Ordner);
+  Ersatzbild_bereitlegen(Plan.Ordner, Zurueck);
   Programmordner_setzen(Plan.Ordner);
   Programm_initialisieren();
   if (QString grund = Vorhandenes_pruefen(Plan); !grund.isEmpty()) return grund;

@@ -29,7 +29,7 @@ class MARKLINK_EXPORT common {
 
   /// Opens the client `Firmenname` for the employee `Benutzername`. False when no shop project is set up,
   /// also after the settings dialog was shown. `Init` and `ShowMessage` have no effect, on purpose. May be
-  /// called again.
+  /// called again; while a screen is open or a run is under way it changes nothing and answers false.
   virtual bool Initialisierung(const QString &Firmenname, const QString &Benutzername,
                                const bool &Init = true, const bool &ShowMessage = true) = 0;
 
@@ -79,6 +79,7 @@ class MARKLINK_EXPORT common {
 extern "C" {
 /// Creates the object; give it back with marklink_common_freigeben(). Never nullptr.
 MARKLINK_EXPORT marklink::common *marklink_common_erzeugen();
-/// Frees an object of marklink_common_erzeugen(); nullptr is allowed.
+/// Frees an object of marklink_common_erzeugen(); nullptr is allowed. A screen that is open stays until it is
+/// closed: only then may the library be unloaded.
 MARKLINK_EXPORT void marklink_common_freigeben(marklink::common *Objekt);
 }

@@ -22,7 +22,7 @@ clsBildfeld::clsBildfeld(QWidget *Eltern) : QWidget(Eltern) {
 QSize clsBildfeld::sizeHint() const { return {160, 160}; }
 
 void clsBildfeld::Bild_setzen(const QString &Pfad) {
-  Bild_ = Bild_laden(Pfad);
+  Bild_ = Bild_laden(Pfad);  // without a box: it would come with every other row that one walks through
   Pfad_ = Bild_.isNull() ? QString() : Pfad;
   Skaliert_ = {};
   setFocusPolicy(Mit_Bild() ? Qt::StrongFocus : Qt::NoFocus);
@@ -32,12 +32,11 @@ void clsBildfeld::Bild_setzen(const QString &Pfad) {
 
 void clsBildfeld::paintEvent(QPaintEvent *) {
   QPainter maler(this);
-  const QColor grund = palette().color(QPalette::Base);
-  maler.fillRect(rect(), grund);
+  maler.fillRect(rect(), palette().color(QPalette::Base));
   const QRect innen = rect().adjusted(Rand, Rand, -Rand, -Rand);
   const QSize pixel = innen.size() * devicePixelRatioF();
   if (Mit_Bild() && Skaliert_.size() != pixel) {
-    Skaliert_ = QPixmap::fromImage(Bild_skalieren(Bild_, pixel, grund, true));
+    Skaliert_ = QPixmap::fromImage(Bild_skalieren(Bild_, pixel, Qt::transparent, true));
     Skaliert_.setDevicePixelRatio(devicePixelRatioF());
   }
   if (Mit_Bild()) maler.drawPixmap(innen.topLeft(), Skaliert_);

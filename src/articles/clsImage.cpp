@@ -7,6 +7,7 @@
 
 #include "Bildflaeche.h"
 #include "db/Ablaufverfolgung.h"
+#include "ui/Dialoge.h"
 
 namespace marklink {
 
@@ -34,7 +35,11 @@ QImage Bild_skalieren(const QImage &Bild, QSize Ziel, const QColor &Hintergrund,
 }
 
 QImage Bild_skalieren(const QString &Pfad, QSize Ziel, const QColor &Hintergrund, bool Proportional) {
-  return Bild_skalieren(Bild_laden(Pfad), Ziel, Hintergrund, Proportional);
+  const QImage bild = Bild_laden(Pfad);
+  if (bild.isNull())
+    dialoge().Meldung(QStringLiteral("GDI+ Module"), {QStringLiteral("Error loading picture ") + Pfad},
+                      Symbol::Warnung);
+  return Bild_skalieren(bild, Ziel, Hintergrund, Proportional);
 }
 
 }  // namespace marklink

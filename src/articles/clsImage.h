@@ -39,9 +39,10 @@ class clsImage {
 };
 
 /// The picture of a file on a target of that size in pixels: with proportions as large as fits, centred, the
-/// rest in the background colour; else stretched to the target. Null for what cannot be read as a picture.
+/// rest in the background colour; else stretched to the target. Null, and a box that says so, for what cannot
+/// be read as a picture.
 QImage Bild_skalieren(const QString &Pfad, QSize Ziel, const QColor &Hintergrund, bool Proportional);
-/// The same for a picture that is loaded already.
+/// The same for a picture that is loaded already; null for a null one, without a word.
 QImage Bild_skalieren(const QImage &Bild, QSize Ziel, const QColor &Hintergrund, bool Proportional);
 /// The picture of a file by its content, whatever its name says; null when there is none.
 QImage Bild_laden(const QString &Pfad);

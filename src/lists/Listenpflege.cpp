@@ -56,6 +56,7 @@ bool Listenpflege::Farbe_waehlen(int Zeile) {
 }
 
 bool Listenpflege::Zelle_setzen(int Zeile, int Spalte, const QVariant &Wert) {
+  // Keys set the flag in the window; what is edited by the mouse alone counts as well, which is intended.
   Geaendert_ = true;
   if (Spalte == Liste_.Spalte(QLatin1String(Feld_Standard))) Standard_nehmen(Zeile);
   Inhalt_[size_t(Zeile)][size_t(Spalte)] = Wert;
@@ -89,6 +90,7 @@ std::optional<qint32> Listenpflege::Zeilenfarbe(int Zeile) const {
 }
 
 bool Listenpflege::Zeile_anfuegen() {
+  if (!Gelesen_) return false;
   Inhalt_.emplace_back(Liste_.Spalten.size());
   return true;
 }

@@ -14,8 +14,9 @@ class Listenpflege : public Tabellenquelle {
   explicit Listenpflege(const Liste &Was) : Liste_(Was) {}
 
   const Liste &Was() const { return Liste_; }
-  /// Reads the table in the order in which it comes. The order statuses take their row colours from the
-  /// status list as it is now.
+  /// Reads the table in the order in which it comes. When that fails the list is empty, takes no new rows,
+  /// and is never written: it would delete what it does not know. The order statuses take their row colours
+  /// from the status list as it is now.
   void Liste_laden();
   /// Replaces the whole table by the rows, also when nothing was changed. A failure is passed over: no
   /// transaction holds the deleting and the writing together, on purpose. The order statuses build the status
@@ -59,6 +60,7 @@ class Listenpflege : public Tabellenquelle {
   /// must not leave the list without its default.
   std::vector<QVariant> Standards_vorher_;
   bool Geaendert_ = false;
+  bool Gelesen_ = false;  ///< Inhalt_ stands for the whole table
 };
 
 }  // namespace marklink

@@ -1,5 +1,6 @@
 // Reading and writing the table behind a list's editor.
 #include "Listenpflege.h"
+#include "db/Ablaufverfolgung.h"
 #include "db/Ergebnis.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
@@ -16,7 +17,8 @@ QVariant Zahl_umwandeln(const QVariant &Wert) {
 }
 
 /// The cell as the column takes it; null when it cannot be converted, then the field is not assigned. A whole
-/// number is rounded and limited by its column, which is 16 bits wide but for the colours.
+/// number is rounded and limited by the width of its column. That is 16 bits but for the colours, which do
+/// not pass through 16 bits as the other numbers do: intended, since no colour would fit into them.
 QVariant Zelle_umwandeln(const QVariant &Wert, db::Feldart Art) {
   if (Wert.isNull()) return {};
   switch (Art) {
@@ -41,6 +43,7 @@ void Listenpflege::Liste_laden() {
     std::vector<QVariant> &zeile = Inhalt_.emplace_back();
     for (const Tabellenspalte &spalte : Liste_.Spalten) zeile.push_back(satz.Value(spalte.Schluessel));
   }
+  Gelesen_ = satz.IsOpen();
   const bool gefaerbt = Liste_.Spalte(QLatin1String("Colour")) >= 0;
   Farben_ = gefaerbt ? Auftragsstati_farben(gAuftragsstati_Liste) : std::vector<Auftragsstatusfarbe>{};
   Standards_vorher_.clear();
@@ -48,6 +51,10 @@ void Listenpflege::Liste_laden() {
 }
 
 void Listenpflege::Liste_speichern() {
+  if (!Gelesen_) {
+    Ablauf_melden(QStringLiteral("Liste"), Liste_.Tabelle + QStringLiteral(": not read, so not replaced"));
+    return;
+  }
   const db::Name tabelle{Liste_.Tabelle};
   Ausfuehren({"DELETE FROM ", tabelle});
   db::Recordset satz;

@@ -2,6 +2,7 @@
 #include "Auftragstabelle.h"
 
 #include "Auftragsstati.h"
+#include "host/Kontext.h"
 #include "host/Zahlen.h"
 
 namespace marklink {
@@ -62,6 +63,8 @@ bool Auftragstabelle::Zelle_setzen(int Zeile, int Spalte, const QVariant &Wert) 
   Liste_.Zelle_setzen(Zeile, Spalte, Wert);
   return true;
 }
+
+bool Auftragstabelle::Gesperrt() const { return Kontext.gLaeuft; }
 
 std::optional<qint32> Auftragstabelle::Zeilenfarbe(int Zeile) const {
   static const int spalte = Auftragsspalte_finden("Status");

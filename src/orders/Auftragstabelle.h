@@ -31,6 +31,8 @@ class Auftragstabelle : public Tabellenquelle {
   int Zeilen() const override { return Liste_.Zeilenzahl(); }
   QVariant Zelle(int Zeile, int Spalte) const override { return Liste_.Zelle(Zeile, Spalte); }
   bool Zelle_setzen(int Zeile, int Spalte, const QVariant &Wert) override;
+  /// In the middle of a run: it works on the rows as they are.
+  bool Gesperrt() const override;
   std::optional<qint32> Zeilenfarbe(int Zeile) const override;
 
  private:

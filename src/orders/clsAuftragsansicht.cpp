@@ -10,6 +10,7 @@
 
 #include "articles/clsBildfeld.h"
 #include "articles/frmBild.h"
+#include "host/Kontext.h"
 #include "ui/clsOberflaeche.h"
 
 namespace marklink {
@@ -160,6 +161,7 @@ void clsAuftragsansicht::Artikel_zeigen(const Artikelanzeige &Artikel) {
 }
 
 void clsAuftragsansicht::Position_gewaehlt() {
+  if (Kontext.gLaeuft) return;  // no query between two steps of a run
   const int zeile = lvwPositionen->indexOfTopLevelItem(lvwPositionen->currentItem());
   if (zeile < 0 || zeile >= int(Positionen_.size())) return;
   const Positionszeile &position = Positionen_[size_t(zeile)];
@@ -167,6 +169,7 @@ void clsAuftragsansicht::Position_gewaehlt() {
 }
 
 void clsAuftragsansicht::Bild_zeigen() {
+  if (Kontext.gLaeuft) return;  // the run would stand still behind the preview
   frmBild vorschau(window());
   vorschau.Bildname_setzen(picBild->Pfad());
   vorschau.exec();

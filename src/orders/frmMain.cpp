@@ -1,25 +1,17 @@
-// The order desk: what it shows, its keys, opening and closing.
+// The order desk: what it shows.
 #include "frmMain.h"
 
-#include <QApplication>
-#include <QCloseEvent>
 #include <QComboBox>
-#include <QEventLoop>
 #include <QMenu>
 #include <QPainter>
-#include <QPointer>
 #include <QScreen>
 #include <QSplitter>
-#include <QTimer>
-#include <QToolButton>
 #include <QTreeWidget>
 
 #include "clsAuftragsansicht.h"
 #include "frmBestellstatus.h"
 #include "host/Kontext.h"
 #include "ui/Farbwert.h"
-#include "ui/Hilfe.h"
-#include "ui/Schirme.h"
 #include "ui/Zeitraum.h"
 #include "ui/clsFensterlayout.h"
 #include "ui/clsOberflaeche.h"
@@ -32,8 +24,6 @@ namespace {
 
 const QString Gitterlayout = QString::fromUtf16(Auftragsliste_Layout);
 const QString Fensterschluessel = QStringLiteral("Webshop_Auftragsverwaltung_Fenster");
-constexpr int Aktivierung_ms = 500;
-QPointer<frmMain> Offen;
 
 /// A square in the status' colour; an empty one for a status without.
 QIcon Statusbild(std::optional<qint32> Farbe, const QPalette &Palette) {
@@ -137,37 +127,14 @@ void frmMain::Zeitraum_zeigen() {
   cboZeitraum->setCurrentIndex(zeitraum < cboZeitraum->count() ? zeitraum : -1);
 }
 
-// --- commands
-
-void frmMain::Ausfuehren(const std::function<void()> &Tun) {
-  if (Beschaeftigt_ || Kontext.gLaeuft || !jgTab->Bearbeitung_abschliessen()) return;
-  Beschaeftigt_ = true;
-  Tun();
-  Beschaeftigt_ = false;
-  if (std::exchange(Schliessen_, false)) QTimer::singleShot(0, this, &QWidget::close);
-}
-
-void frmMain::Befehl(const QString &Schluessel) {
-  if (Schluessel == u"Beenden") {
-    close();
-    return;
-  }
-  Ausfuehren([this, &Schluessel] {
-    if (Schluessel == u"mnuKontext_Tabelle_Formatieren")
-      Tabelle_formatieren();
-    else
-      Pult_.Befehl(Schluessel);
-    if (Schluessel == u"einstellungen_auftragsstati") Stati_zeigen();
-  });
-  jgTab->Auffrischen();
-  Anzahl_zeigen();
+void frmMain::Anordnung_speichern() {
+  Layout_speichern(*jgTab, Gitterlayout);
+  Fensterlayout_speichern(*this, Fensterschluessel, {TeilerUnten, TeilerOben, gnTab1->Teiler()});
 }
 
 void frmMain::Tabelle_formatieren() {
   frmTabelle_Formatieren(*jgTab, Gitterlayout, false, false, this).exec();
 }
-
-// --- rows
 
 void frmMain::Liste_geladen() {
   jgTab->Neu_laden();
@@ -188,94 +155,5 @@ void frmMain::Anzahl_zeigen() {
   const QString wort = zeilen == 1 ? QStringLiteral("Bestellung") : QStringLiteral("Bestellungen");
   lbAnzahl->setText(QStringLiteral("%L1 %2, %L3 markiert").arg(zeilen).arg(wort).arg(markiert));
 }
-
-// --- events
-
-void frmMain::showEvent(QShowEvent *Ereignis) {
-  QMainWindow::showEvent(Ereignis);
-  // On a desktop that does not let new windows become active the list must load all the same.
-  QTimer::singleShot(Aktivierung_ms, this, &frmMain::Erste_Aktivierung);
-}
-
-void frmMain::Erste_Aktivierung() {
-  if (!std::exchange(Aktiviert_, true)) Ausfuehren([this] { Pult_.Erste_Aktivierung(); });
-}
-
-void frmMain::closeEvent(QCloseEvent *Ereignis) {
-  if (Beschaeftigt_ || Kontext.gLaeuft) {
-    // The run needs the window: it is told to end, and the window closes behind it.
-    Kontext.gAbbrechen = true;
-    Schliessen_ = true;
-    Ereignis->ignore();
-    return;
-  }
-  if (!jgTab->Bearbeitung_abschliessen() || !Pult_.Beenden()) {
-    Ereignis->ignore();
-    return;
-  }
-  // No other window of the program can be open here: all that the desk opens are modal.
-  Layout_speichern(*jgTab, Gitterlayout);
-  Fensterlayout_speichern(*this, Fensterschluessel, {TeilerUnten, TeilerOben, gnTab1->Teiler()});
-  Auftragspult::Freigeben();
-  QMainWindow::closeEvent(Ereignis);
-  Q_EMIT Geschlossen();
-}
-
-void frmMain::keyPressEvent(QKeyEvent *Ereignis) {
-  switch (Ereignis->key()) {
-    case Qt::Key_F1:
-      Hilfe_zeigen(Hilfethema::Auftragsverwaltung);
-      return;
-    case Qt::Key_Escape:
-      Kontext.gAbbrechen = true;
-      return;
-    case Qt::Key_F5:
-      Befehl(QStringLiteral("cmdAktualisieren"));
-      return;
-    default:
-      QMainWindow::keyPressEvent(Ereignis);
-  }
-}
-
-void frmMain::changeEvent(QEvent *Ereignis) {
-  QMainWindow::changeEvent(Ereignis);
-  if (Ereignis->type() == QEvent::PaletteChange) Symbole_zeichnen();
-  // Behind the event, so that the window is painted before the shop is asked.
-  if (Ereignis->type() == QEvent::ActivationChange && isActiveWindow() && !Aktiviert_)
-    QTimer::singleShot(0, this, &frmMain::Erste_Aktivierung);
-}
-
-/// A toolbar button with a drop-down menu opens it by the Down key or F4.
-bool frmMain::eventFilter(QObject *Objekt, QEvent *Ereignis) {
-  auto *knopf = qobject_cast<QToolButton *>(Objekt);
-  if (knopf != nullptr && Ereignis->type() == QEvent::KeyPress) {
-    const int taste = static_cast<QKeyEvent *>(Ereignis)->key();
-    if (taste == Qt::Key_Down || taste == Qt::Key_F4) {
-      knopf->showMenu();
-      return true;
-    }
-  }
-  return QMainWindow::eventFilter(Objekt, Ereignis);
-}
-
-// --- by name
-
-void frmMain::Zeigen() {
-  if (Offen != nullptr) {
-    Offen->showNormal();
-    Offen->raise();
-    Offen->activateWindow();
-    return;
-  }
-  frmMain fenster;
-  Offen = &fenster;
-  fenster.setWindowModality(Qt::ApplicationModal);
-  QEventLoop schleife;
-  connect(&fenster, &frmMain::Geschlossen, &schleife, &QEventLoop::quit);
-  fenster.show();
-  schleife.exec();
-}
-
-void Auftragsfenster_anmelden() { Schirm_anmelden(QStringLiteral("frmMain"), &frmMain::Zeigen); }
 
 }  // namespace marklink

@@ -51,23 +51,26 @@ class frmMain : public QMainWindow {
   void Symbole_zeichnen();
 
   // frmMain.cpp
-  void Erste_Aktivierung();
   void Auftragsliste_einrichten();
   void Stati_zeigen();
   void Status_angehakt(const QTreeWidgetItem *Zeile);
   void Zeitraum_zeigen();
-  /// Runs a command when none is under way; an edit in the grid is taken over first.
-  void Ausfuehren(const std::function<void()> &Tun);
-  void Befehl(const QString &Schluessel);
   void Liste_geladen();
   void Auftrag_anzeigen(int Zeile);
   void Anzahl_zeigen();
   void Tabelle_formatieren();
+  void Anordnung_speichern();
+
+  // frmMain_Ablauf.cpp
+  /// Runs a command when none is under way; an edit in the grid is taken over first. False: refused.
+  bool Ausfuehren(const std::function<void()> &Tun);
+  void Befehl(const QString &Schluessel);
+  void Erste_Aktivierung();
 
   Auftragspult Pult_;
   bool Aktiviert_ = false;     ///< the first activation is over
   bool Beschaeftigt_ = false;  ///< a command runs
-  bool Schliessen_ = false;    ///< the window was closed in the middle of a run
+  bool Schliessen_ = false;    ///< the window was closed in the middle of a run of its own
   QHash<QAction *, QString> Symbole_;
   QMenu *mnuKontext, *mnuStatus_setzen;
   clsTabelle *jgTab;

@@ -117,6 +117,8 @@ void Winsock_initialisieren(Verbindungsauftrag &Auftrag, Verbindungsanzeige *Anz
 
 void Verbindungsfenster_setzen(Verbindungsfenster Fenster) { Fenster_installiert = Fenster; }
 
+Verbindungsfenster Verbindungsfenster_gesetzt() { return Fenster_installiert; }
+
 void Verbindung_zeigen(Verbindungsauftrag &Auftrag) {
   if (Fenster_installiert != nullptr)
     Fenster_installiert(Auftrag);

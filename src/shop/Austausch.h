@@ -39,6 +39,7 @@ void Winsock_initialisieren(Verbindungsauftrag &Auftrag, Verbindungsanzeige *Anz
 /// (nullptr) the exchange runs bare.
 using Verbindungsfenster = void (*)(Verbindungsauftrag &Auftrag);
 void Verbindungsfenster_setzen(Verbindungsfenster Fenster);
+Verbindungsfenster Verbindungsfenster_gesetzt();
 
 /// Shows the connection window modally (or runs bare) and returns when the exchange is over.
 void Verbindung_zeigen(Verbindungsauftrag &Auftrag);

@@ -31,7 +31,9 @@ const Einstellungsfeld Felder[] = {
     {"txtShop_Benutzername", Zugangsdaten, Shopzugang, "Benutzername",
      "Anmeldung eines Administrators des Shops, meist seine E-Mail-Adresse.", "username", Text},
     {"txtShop_Passwort", Zugangsdaten, Shopzugang, "Passwort",
-     "Ein geändertes Passwort gilt, sobald der Mandant neu geöffnet wird.", "password", Passwort},
+     "Ein geändertes Passwort gilt in der Auftragsverwaltung sofort, sonst sobald der Mandant neu geöffnet "
+     "wird.",
+     "password", Passwort},
     {"txtShop_Ordner", Allgemein, "", "Shop-Ordner",
      "Der Ordner des Shops auf dem Server, mit Schrägstrich am Anfang und am Ende: /shop/ oder nur /.",
      "folder", Text},

@@ -100,15 +100,17 @@ void frmEinstellungen::Seitenbefehle_bauen(Einstellungsseite Seite, QVBoxLayout 
     QPushButton *hochladen = Knopf("cmdFTP_Upload", QStringLiteral("Script auf den Server laden"), this);
     hochladen->setEnabled(false);
     knopf("cmdFTP_Verbindungstest", QStringLiteral("Verbindung testen"), [this, hochladen] {
-      Einstellungen_.Verbindung_testen();
+      Ausfuehren([this] { Einstellungen_.Verbindung_testen(); });
       hochladen->setEnabled(Einstellungen_.Hochladen_moeglich());
     });
-    connect(hochladen, &QPushButton::clicked, this, [this] { Einstellungen_.Script_hochladen(); });
+    connect(hochladen, &QPushButton::clicked, this,
+            [this] { Ausfuehren([this] { Einstellungen_.Script_hochladen(); }); });
     reihe->addWidget(hochladen);
-    knopf("Command1", QStringLiteral("Script Exists"), [this] { Einstellungen_.Script_suchen(); });
+    knopf("Command1", QStringLiteral("Script Exists"),
+          [this] { Ausfuehren([this] { Einstellungen_.Script_suchen(); }); });
   } else if (Seite == Einstellungsseite::Einstellungen) {
     knopf("Command2", QStringLiteral("Tabelle aktualisieren"),
-          [this] { Einstellungen_.Tabelle_aktualisieren(); });
+          [this] { Ausfuehren([this] { Einstellungen_.Tabelle_aktualisieren(); }); });
     knopf("Command3", QStringLiteral("Shop-Konfig abrufen"), nichts);
     knopf("Command4", QStringLiteral("Shop-Konfig speichern"), nichts);
   }
@@ -130,7 +132,19 @@ void frmEinstellungen::Knoepfe_bauen(QVBoxLayout *Zeilen) {
   Zeilen->addLayout(reihe);
 }
 
+void frmEinstellungen::Ausfuehren(const std::function<void()> &Tun) {
+  if (Beschaeftigt_) return;
+  Beschaeftigt_ = true;
+  Tun();
+  Beschaeftigt_ = false;
+}
+
+void frmEinstellungen::reject() {
+  if (!Beschaeftigt_) QDialog::reject();
+}
+
 void frmEinstellungen::Speichern() {
+  if (Beschaeftigt_) return;
   Einstellungen_.Einstellungen_speichern();
   accept();
 }

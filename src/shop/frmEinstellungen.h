@@ -20,8 +20,12 @@ class frmEinstellungen : public QDialog {
 
  protected:
   void keyPressEvent(QKeyEvent *Ereignis) override;
+  void reject() override;
 
  private:
+  /// Runs a command that waits for a server. The message loop may run meanwhile: nothing else starts then,
+  /// and the window stays.
+  void Ausfuehren(const std::function<void()> &Tun);
   void Navigation_fuellen();
   QWidget *Seite_bauen(Einstellungsseite Seite);
   void Seitenbefehle_bauen(Einstellungsseite Seite, QVBoxLayout *Zeilen);
@@ -30,6 +34,7 @@ class frmEinstellungen : public QDialog {
   void Speichern();
 
   Shopeinstellungen Einstellungen_;
+  bool Beschaeftigt_ = false;  ///< a command is under way
   QTreeWidget *tvwNavigation;
   QStackedWidget *picWizard;
 };

@@ -42,6 +42,8 @@ Fortschritt &fortschritt() {
 
 void Fortschritt_setzen(Fortschritt *Neu) { Installiert = Neu; }
 
+bool Fortschritt_gesetzt() { return Installiert != nullptr; }
+
 Fortschritt_verdeckt::Fortschritt_verdeckt() : War_offen_(fortschritt().Offen()) {
   if (War_offen_) fortschritt().Ausblenden();
 }

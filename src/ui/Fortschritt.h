@@ -28,6 +28,7 @@ class Fortschritt {
 /// The installed progress window; one that shows nothing when none was installed.
 Fortschritt &fortschritt();
 void Fortschritt_setzen(Fortschritt *Neu);  ///< not owned; nullptr: none
+bool Fortschritt_gesetzt();
 
 /// While it lives, no progress window stands in front of a box or prompt.
 class Fortschritt_verdeckt {

@@ -10,6 +10,7 @@
 namespace marklink {
 
 bool Tabellenquelle::Zelle_setzen(int, int, const QVariant &) { return false; }
+bool Tabellenquelle::Gesperrt() const { return false; }
 std::optional<qint32> Tabellenquelle::Zeilenfarbe(int) const { return std::nullopt; }
 bool Tabellenquelle::Zeile_anfuegen() { return false; }
 void Tabellenquelle::Zeile_entfernen(int) {}

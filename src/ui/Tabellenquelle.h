@@ -48,6 +48,8 @@ class Tabellenquelle {
   /// A cell was edited: text from an editor or a pick list, bool from a check box. May change other cells
   /// too; the grid paints all of them again. False: not taken.
   virtual bool Zelle_setzen(int Zeile, int Spalte, const QVariant &Wert);
+  /// While it is true no cell can be edited.
+  virtual bool Gesperrt() const;
   /// The colour value of the row's background, none for the usual alternation.
   virtual std::optional<qint32> Zeilenfarbe(int Zeile) const;
 

@@ -24,11 +24,14 @@ namespace marklink {
 namespace {
 
 struct Anschluesse {
+  QLocale Sprache_vorher;
   clsDialoge Dialoge_;
   Fenster_Fortschritt Fortschritt_;
   QTranslator Deutsch;
 };
 std::unique_ptr<Anschluesse> Eingerichtet;
+
+QLocale Deutschland() { return {QLocale::German, QLocale::Germany}; }
 
 class Feldmarkierer : public QObject {
  public:
@@ -70,15 +73,17 @@ void Oberflaeche_einrichten() {
   if (Eingerichtet->Deutsch.load(QStringLiteral("qtbase_de"),
                                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QCoreApplication::installTranslator(&Eingerichtet->Deutsch);
-  QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-  Dialoge_setzen(&Eingerichtet->Dialoge_);
-  Fortschritt_setzen(&Eingerichtet->Fortschritt_);
+  QLocale::setDefault(Deutschland());
+  if (!Dialoge_gesetzt()) Dialoge_setzen(&Eingerichtet->Dialoge_);
+  if (!Fortschritt_gesetzt()) Fortschritt_setzen(&Eingerichtet->Fortschritt_);
 }
 
 void Oberflaeche_abbauen() {
   if (!Eingerichtet) return;
-  Dialoge_setzen(nullptr);
-  Fortschritt_setzen(nullptr);
+  // What the host has put in their place meanwhile is its own.
+  if (&dialoge() == &Eingerichtet->Dialoge_) Dialoge_setzen(nullptr);
+  if (&fortschritt() == &Eingerichtet->Fortschritt_) Fortschritt_setzen(nullptr);
+  if (QLocale() == Deutschland()) QLocale::setDefault(Eingerichtet->Sprache_vorher);
   Eingerichtet.reset();
 }
 

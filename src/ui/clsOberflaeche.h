@@ -9,11 +9,12 @@ class QWidget;
 
 namespace marklink {
 
-/// Installs dialogs and progress as windows and Qt's own texts in German, once, if this is a program with
-/// windows (QApplication) and the host has installed none of its own. To be called before any window is made.
+/// Installs dialogs and progress as windows, each where the host has none of its own, and makes German the
+/// language of Qt's texts and of the program's default locale; once, if this is a program with windows
+/// (QApplication). To be called before any window is made.
 void Oberflaeche_einrichten();
 
-/// Takes the ports away again, before the QApplication ends.
+/// Takes its own ports away again and gives the default locale back, before the QApplication ends.
 void Oberflaeche_abbauen();
 
 /// An icon of the program's own family (icons/<Name>.svg), in the colour of the text, so that it can be read

@@ -48,10 +48,7 @@ QModelIndex clsTabelle::moveCursor(CursorAction Wohin, Qt::KeyboardModifiers Tas
 
 /// A key that the column does not take must not open its editor either.
 bool clsTabelle::Taste_verwerfen(const QKeyEvent &Taste) const {
-  if (!currentIndex().isValid()) return false;
-  const QString &erlaubt = Spalten()[size_t(currentIndex().column())].Zeichen;
-  const QString text = Taste.text();
-  return !erlaubt.isEmpty() && text.size() == 1 && text[0].isPrint() && !erlaubt.contains(text);
+  return currentIndex().isValid() && !Taste_erlaubt(Spalten()[size_t(currentIndex().column())], Taste);
 }
 
 void clsTabelle::keyPressEvent(QKeyEvent *Ereignis) {

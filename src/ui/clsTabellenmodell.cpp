@@ -106,12 +106,14 @@ Qt::ItemFlags clsTabellenmodell::flags(const QModelIndex &Stelle) const {
   if (!Stelle.isValid()) return Qt::NoItemFlags;
   const Tabellenspalte &spalte = Spalte(Stelle);
   Qt::ItemFlags flaggen = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-  if (!spalte.Bearbeitbar) return flaggen;
+  if (!spalte.Bearbeitbar || Quelle_->Gesperrt()) return flaggen;
   return flaggen | (spalte.Wie == Tabellenspalte::Art::Haken ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
 }
 
 bool clsTabellenmodell::setData(const QModelIndex &Stelle, const QVariant &Neu, int Rolle) {
-  if (!checkIndex(Stelle, CheckIndexOption::IndexIsValid) || !Spalte(Stelle).Bearbeitbar) return false;
+  if (!checkIndex(Stelle, CheckIndexOption::IndexIsValid) || !Spalte(Stelle).Bearbeitbar ||
+      Quelle_->Gesperrt())
+    return false;
   const bool haken = Spalte(Stelle).Wie == Tabellenspalte::Art::Haken;
   if (Rolle != (haken ? Qt::CheckStateRole : Qt::EditRole)) return false;
   const QVariant wert = haken ? QVariant(Neu.toInt() == Qt::Checked) : QVariant(Neu.toString());

@@ -12,6 +12,10 @@ namespace marklink {
 
 class clsTabelle;
 
+/// Whether the column takes what the key would write. A key that writes nothing, such as Ctrl+V or Enter, is
+/// always taken.
+bool Taste_erlaubt(const Tabellenspalte &Spalte, const QKeyEvent &Taste);
+
 class clsTabellenzelle : public QStyledItemDelegate {
   Q_OBJECT
  public:

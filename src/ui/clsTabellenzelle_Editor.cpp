@@ -3,7 +3,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QRegularExpressionValidator>
 #include <QStandardItemModel>
 #include <QTimer>
 #include <algorithm>
@@ -25,6 +24,36 @@ QStandardItemModel *Eintraege_erzeugen(const std::vector<QStringList> &Auswahl, 
   return modell;
 }
 
+/// What was put into `Vorher` to make `Neu` of it, without the characters that are not allowed. An input of
+/// which nothing is left changes nothing.
+QString Eingabe_filtern(const QString &Vorher, const QString &Neu, const QString &Erlaubt) {
+  const auto [vorne, vorne_neu] = std::mismatch(Vorher.begin(), Vorher.end(), Neu.begin(), Neu.end());
+  const auto hinten =
+      std::mismatch(std::make_reverse_iterator(Vorher.end()), std::make_reverse_iterator(vorne),
+                    std::make_reverse_iterator(Neu.end()), std::make_reverse_iterator(vorne_neu));
+  const qsizetype von = vorne_neu - Neu.begin(), bis = hinten.second.base() - Neu.begin();
+  QString eingabe = Neu.mid(von, bis - von);
+  const qsizetype laenge = eingabe.size();
+  eingabe.removeIf([&Erlaubt](QChar zeichen) { return !Erlaubt.contains(zeichen); });
+  if (eingabe.isEmpty() && laenge > 0) return Vorher;
+  return Neu.left(von) + eingabe + Neu.mid(bis);
+}
+
+/// Besides the key filter: what is pasted or dropped. No validator: it would not let go of a text that stood
+/// there before and is none of these characters.
+void Eingaben_filtern(QLineEdit &Feld, const QString &Erlaubt) {
+  const auto vorher = std::make_shared<QString>();
+  QObject::connect(&Feld, &QLineEdit::textEdited, &Feld, [&Feld, Erlaubt, vorher](const QString &Neu) {
+    const QString gefiltert = Eingabe_filtern(*vorher, Neu, Erlaubt);
+    if (gefiltert == Neu) return;
+    const qsizetype dahinter = Neu.size() - Feld.cursorPosition();
+    Feld.setText(gefiltert);
+    Feld.setCursorPosition(int(std::max<qsizetype>(0, gefiltert.size() - dahinter)));
+  });
+  // Not the signal's text: the one above may have changed it meanwhile.
+  QObject::connect(&Feld, &QLineEdit::textChanged, &Feld, [&Feld, vorher] { *vorher = Feld.text(); });
+}
+
 /// The list of a pick list with further columns.
 QTableView *Liste_erzeugen(QWidget *Eltern) {
   auto *liste = new QTableView(Eltern);
@@ -38,6 +67,13 @@ QTableView *Liste_erzeugen(QWidget *Eltern) {
 
 }  // namespace
 
+bool Taste_erlaubt(const Tabellenspalte &Spalte, const QKeyEvent &Taste) {
+  const QString text = Taste.text();
+  const bool befehl = Taste.modifiers() & Qt::ControlModifier;
+  return befehl || Spalte.Zeichen.isEmpty() || text.size() != 1 || !text[0].isPrint() ||
+         Spalte.Zeichen.contains(text);
+}
+
 QWidget *clsTabellenzelle::createEditor(QWidget *Eltern, const QStyleOptionViewItem &,
                                         const QModelIndex &Stelle) const {
   const Tabellenspalte &spalte = Spalte(Stelle);
@@ -48,12 +84,7 @@ QWidget *clsTabellenzelle::createEditor(QWidget *Eltern, const QStyleOptionViewI
   auto *feld = new QLineEdit(Eltern);
   feld->setFrame(false);
   feld->setAutoFillBackground(true);
-  if (!spalte.Zeichen.isEmpty()) {
-    // Besides the key filter: what is pasted or dropped.
-    const QRegularExpression erlaubt(u'[' + QRegularExpression::escape(spalte.Zeichen) +
-                                     QStringLiteral("]*"));
-    feld->setValidator(new QRegularExpressionValidator(erlaubt, feld));
-  }
+  if (!spalte.Zeichen.isEmpty()) Eingaben_filtern(*feld, spalte.Zeichen);
   Editor_ = feld;
   return feld;
 }
@@ -119,10 +150,8 @@ void clsTabellenzelle::Editor_schliessen(bool Uebernehmen) {
 bool clsTabellenzelle::eventFilter(QObject *Objekt, QEvent *Ereignis) {
   if (Ereignis->type() == QEvent::KeyPress && Objekt == Editor_) {
     Q_EMIT Taste_im_Editor();
-    const QString text = static_cast<QKeyEvent *>(Ereignis)->text();
     const QModelIndex stelle = Tabelle_.currentIndex();
-    const QString &erlaubt = stelle.isValid() ? Spalte(stelle).Zeichen : QString();
-    if (!erlaubt.isEmpty() && text.size() == 1 && text[0].isPrint() && !erlaubt.contains(text)) return true;
+    if (stelle.isValid() && !Taste_erlaubt(Spalte(stelle), *static_cast<QKeyEvent *>(Ereignis))) return true;
   }
   return QStyledItemDelegate::eventFilter(Objekt, Ereignis);
 }

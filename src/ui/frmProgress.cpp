@@ -53,11 +53,9 @@ void frmProgress::Text_setzen(const QString &Zeile) { lbTitel->setText(Zeile); }
 
 void frmProgress::Wert_setzen(int Wert) { ProgressBar1->setValue(Wert); }
 
-void frmProgress::Zentrieren() {
+void frmProgress::Zentrieren(const QWidget *Ueber) {
   adjustSize();
-  const QWidget *unter = QApplication::activeWindow();
-  const QRect flaeche =
-      unter != nullptr && unter != this ? unter->frameGeometry() : screen()->availableGeometry();
+  const QRect flaeche = Ueber != nullptr ? Ueber->frameGeometry() : screen()->availableGeometry();
   move(flaeche.center() - rect().center());
 }
 
@@ -70,7 +68,7 @@ struct Fenster_Fortschritt::Fenster {
   bool Sanduhr = false;
   std::optional<QString> Text;  ///< not shown yet
   std::optional<int> Wert;
-  QPointer<QWidget> Davor;  ///< the window that was active when the run began
+  QPointer<QWidget> Unter;  ///< the window that it stands over; none while it is hidden
 
   void Sanduhr_setzen(bool An) {
     if (An == Sanduhr) return;
@@ -80,13 +78,18 @@ struct Fenster_Fortschritt::Fenster {
     else
       QApplication::restoreOverrideCursor();
   }
+  /// A modal window comes first, active or not: it would block the cancel button of one that is not its own.
+  void Unter_bestimmen() {
+    QWidget *fenster = QApplication::activeModalWidget();
+    if (fenster == nullptr) fenster = QApplication::activeWindow();
+    if (fenster != &Form) Unter = fenster;  // the next part of a run may find this window active itself
+  }
   void Zeigen() {
-    if (QWidget *aktiv = QApplication::activeWindow(); aktiv != nullptr && aktiv != &Form) Davor = aktiv;
-    // Belongs to the window that started the run: else one that is modal would block the cancel button.
+    Unter_bestimmen();
     Form.winId();
-    Form.windowHandle()->setTransientParent(Davor != nullptr ? Davor->windowHandle() : nullptr);
+    Form.windowHandle()->setTransientParent(Unter != nullptr ? Unter->windowHandle() : nullptr);
     Form.show();
-    Form.Zentrieren();
+    Form.Zentrieren(Unter);
     Sanduhr_setzen(true);
     Weiterleiten(true);
   }
@@ -95,7 +98,8 @@ struct Fenster_Fortschritt::Fenster {
     Form.hide();
     Sanduhr_setzen(false);
     // The keys go on where they went.
-    if (aktiv && Davor != nullptr) Davor->activateWindow();
+    if (aktiv && Unter != nullptr) Unter->activateWindow();
+    Unter = nullptr;
   }
   /// Between two rounds of the message loop nobody could see a change: it is only kept.
   void Weiterleiten(bool Sofort) {

@@ -21,8 +21,8 @@ class frmProgress : public QDialog {
   void Einrichten(const QString &Titel, int Maximum, bool Abbrechen_zeigen);
   void Text_setzen(const QString &Zeile);
   void Wert_setzen(int Wert);
-  /// In the middle of the window it stands over, else of the screen.
-  void Zentrieren();
+  /// In the middle of that window; of the screen without one.
+  void Zentrieren(const QWidget *Ueber);
 
  protected:
   void reject() override;

@@ -1,6 +1,7 @@
 // New clients: what is in the folder afterwards, and that a failed one leaves nothing behind.
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QProcess>
 
 #include "Launcher.h"
@@ -30,13 +31,15 @@ TEST_P(Mandant_anlegen_Test, alles_was_ein_Mandant_braucht) {
   const QString begleiter =
       Ini_lesen(L.Datei("varda.ini"), QStringLiteral("Marklink"), QStringLiteral("exportfile"));
   QStringList dateien{QStringLiteral("Müller & Söhne.mdb"), QStringLiteral("mandanten.ini"),
-                      QStringLiteral("marklink.php"), begleiter, QStringLiteral("varda.ini")};
+                      QStringLiteral("marklink.php"),       begleiter,
+                      QStringLiteral("noimage.jpg"),        QStringLiteral("varda.ini")};
   if (GetParam() == 0) dateien.prepend(QStringLiteral("Müller & Söhne.afk"));
   EXPECT_EQ(Inhalt(L.Ordner()), dateien);
   for (const QString &datei : dateien)
     EXPECT_EQ(QFileInfo(L.Ordner() + u'/' + datei).permissions() & (QFile::ReadGroup | QFile::ReadOther), 0)
         << "readable by others: " << datei.toStdString();
 
+  EXPECT_FALSE(QImage(L.Datei("noimage.jpg")).isNull()) << "the order desk shows it for an unknown article";
   EXPECT_EQ(L.Starten("einstellung lesen Program Country").Ausgabe, QStringLiteral("Deutschland\n"));
   EXPECT_EQ(L.Starten("einstellung lesen Program DocumentPath").Ausgabe, L.Ordner() + QStringLiteral("/\n"));
   const QString mdb = L.Datei("Müller & Söhne.mdb");
@@ -70,7 +73,7 @@ TEST_P(Mandant_anlegen_Test, mehrere_zugleich_und_nach_einem_abgeschossenen) {
   for (const auto &prozess : alle) gelungen += Launcher::Abwarten(*prozess).Ausgang == 0 ? 1 : 0;
   EXPECT_EQ(gelungen, 4) << "each name once";
   EXPECT_EQ(Launcher::Lesen(L.Datei("mandanten.ini")).count('['), 4);
-  EXPECT_EQ(Inhalt(L.Ordner()).size(), GetParam() == 0 ? 12 : 8)
+  EXPECT_EQ(Inhalt(L.Ordner()).size(), GetParam() == 0 ? 13 : 9)
       << Inhalt(L.Ordner()).join(u' ').toStdString();
 }
 

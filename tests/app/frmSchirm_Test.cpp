@@ -1,10 +1,18 @@
 // The launcher's screens from the command to the window and back.
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTemporaryDir>
+#include <QTreeWidget>
 
 #include "Befehlszeile.h"
 #include "Start.h"
+#include "host/Kontext.h"
+#include "marklink/common.h"
+#include "support/Dialoge_Skript.h"
 #include "support/Fenster_Test.h"
 #include "ui/clsOberflaeche.h"
 
@@ -29,9 +37,10 @@ class frmSchirm_Test : public ::testing::TestWithParam<const char *> {
     for (const char *wort : Worte) worte << QString::fromUtf8(wort);
     return Launcher_starten(Befehlszeile_lesen(worte));
   }
-  static QString Projekt() {
+  static QString Projekt() { return Einstellung("project"); }
+  static QString Einstellung(const char *Schluessel) {
     ::testing::internal::CaptureStdout();
-    EXPECT_EQ(Starten({"einstellung", "lesen", "Marklink", "project"}), 0);
+    EXPECT_EQ(Starten({"einstellung", "lesen", "Marklink", Schluessel}), 0);
     return QString::fromStdString(::testing::internal::GetCapturedStdout()).trimmed();
   }
   static void Projekt_eintragen(QWidget &Fenster) {
@@ -42,6 +51,13 @@ class frmSchirm_Test : public ::testing::TestWithParam<const char *> {
   static void Hinweis_bestaetigen(QWidget &Fenster) {
     EXPECT_EQ(Fenster.objectName(), QStringLiteral("Meldung"));
     QTest::keyClick(&Fenster, Qt::Key_Return);
+  }
+
+  static void Einstellen(const char *Abschnitt, const char *Schluessel, const char *Wert) {
+    EXPECT_EQ(Starten({"einstellung", "schreiben", Abschnitt, Schluessel, Wert}), 0);
+  }
+  static void Klick(QWidget &Fenster, const char16_t *Knopf) {
+    QTest::mouseClick(&Kind<QWidget>(Fenster, Knopf), Qt::LeftButton);
   }
 
   Modale_Schritte Schritte;
@@ -63,6 +79,75 @@ TEST_P(frmSchirm_Test, Auftragsverwaltung_fragt_erst_nach_dem_Projekt) {
   Schritte.Dann(&Hinweis_bestaetigen);
   EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 1);
   EXPECT_EQ(Projekt(), QString());
+}
+
+TEST_P(frmSchirm_Test, Einstellungen_Listen_und_Tabelle_vom_Pult_aus) {
+  Einstellen("Marklink", "project", "Laden");
+  Einstellen("Program", "Finalize", "1");
+  Schritte.Dann([this](QWidget &pult) {
+    Schritte.Dann([](QWidget &fenster) {
+      QTest::keyClicks(&Kind<QLineEdit>(fenster, u"txtHostname"), QStringLiteral("neu.laden.de"));
+      Klick(fenster, u"cmdOK");
+    });
+    Klick(pult, u"Einstellung");
+    EXPECT_TRUE(Kontext.gHostname.contains(QStringLiteral("neu.laden.de"))) << "holds for the next fetch";
+
+    auto &stati = Kind<QTreeWidget>(pult, u"lvwAuftragsstatus");
+    const int vorher = stati.topLevelItemCount();
+    Schritte.Dann([](QWidget &fenster) {
+      Zeigen(fenster);
+      auto &gitter = Kind<QTableView>(fenster, u"jgTab");
+      QTest::mouseClick(gitter.viewport(), Qt::LeftButton, {},
+                        Mitte(gitter, gitter.model()->rowCount() - 1, 0));
+      for (const QChar zeichen : QStringLiteral("Retoure"))
+        QTest::keyClicks(QApplication::focusWidget(), QString(zeichen));
+      Klick(fenster, u"cmdOK");
+    });
+    Kind<QAction>(pult, u"einstellungen_auftragsstati").trigger();
+    EXPECT_EQ(stati.topLevelItemCount(), vorher + 1);
+    EXPECT_EQ(stati.findItems(QStringLiteral("Retoure"), Qt::MatchExactly).size(), 1);
+
+    Schritte.Dann([](QWidget &fenster) {
+      QTest::keyClick(&Kind<QTreeWidget>(fenster, u"lvwTabelle"), Qt::Key_End);
+      QTest::keyClick(&Kind<QCheckBox>(fenster, u"chkAktiv"), Qt::Key_Space);
+      Klick(fenster, u"cmdSpeichern");
+      Klick(fenster, u"cmdOK");
+    });
+    Kind<QAction>(pult, u"mnuKontext_Tabelle_Formatieren").trigger();
+    const auto &gitter = Kind<QTableView>(pult, u"jgTab");
+    EXPECT_TRUE(gitter.isColumnHidden(gitter.model()->columnCount() - 1));
+
+    for (const bool ja : {false, true}) {
+      Schritte.Dann([ja](QWidget &frage) {
+        EXPECT_EQ(frage.windowTitle(), QStringLiteral("Beenden"));
+        QTest::keyClick(&frage, ja ? Qt::Key_Return : Qt::Key_Escape);
+      });
+      Klick(pult, u"Beenden");
+      EXPECT_NE(pult.isVisible(), ja);
+    }
+  });
+  EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 0);
+  EXPECT_EQ(Einstellung("hostname"), QStringLiteral("neu.laden.de"));
+}
+
+TEST_P(frmSchirm_Test, das_Pult_ueberlebt_das_Objekt_des_Hosts) {
+  Einstellen("Marklink", "project", "Laden");
+  common *objekt = nullptr;
+  {
+    const Dialoge_Skript eigene;
+    objekt = marklink_common_erzeugen();
+    EXPECT_EQ(&dialoge(), &eigene) << "a host's own dialogs are not replaced";
+  }
+  ASSERT_TRUE(objekt->Initialisierung(QStringLiteral("Test"), QStringLiteral("Chef")));
+  Schritte.Dann([&](QWidget &pult) {
+    EXPECT_FALSE(objekt->Initialisierung(QStringLiteral("Andere"), QStringLiteral("Chef")));
+    EXPECT_EQ(Kontext.gFirmenname, QStringLiteral("Test"));
+    marklink_common_freigeben(objekt);
+    Schritte.Dann(&Hinweis_bestaetigen);  // nothing is marked
+    Kind<QAction>(pult, u"Rechnung").trigger();
+  });
+  objekt->Show_Main();
+  EXPECT_FALSE(Dialoge_gesetzt()) << "the windows go behind the last one that was open";
 }
 
 }  // namespace

@@ -7,6 +7,9 @@
 #include <QTemporaryDir>
 
 #include "articles/Bildflaeche.h"
+#include "articles/clsBildfeld.h"
+#include "support/Dialoge_Skript.h"
+#include "support/Fenster_Test.h"
 
 namespace marklink {
 namespace {
@@ -90,7 +93,26 @@ TEST_F(clsImage_Test, Skalieren_fuellt_den_Rest_mit_dem_Hintergrund) {
   EXPECT_EQ(bild.pixelColor(50, 10), QColor(Qt::white));
   EXPECT_EQ(bild.pixelColor(50, 50), QColor(Qt::red));
   EXPECT_EQ(bild.pixelColor(50, 90), QColor(Qt::white));
-  EXPECT_TRUE(Bild_skalieren(Datei("kein Bild"), {100, 100}, Qt::white, true).isNull());
+  test::Dialoge_Skript dialoge;
+  dialoge.Erwarten(QStringLiteral("GDI+ Module"));
+  const QString datei = Datei("kein Bild");
+  EXPECT_TRUE(Bild_skalieren(datei, {100, 100}, Qt::white, true).isNull());
+  EXPECT_EQ(dialoge.Gezeigt[0].Zeilen, QStringList{QStringLiteral("Error loading picture ") + datei});
+}
+
+TEST_F(clsImage_Test, Bildfeld_folgt_dem_Desktop) {
+  clsBildfeld feld;
+  feld.resize(100, 100);
+  feld.Bild_setzen(Bild("PNG", {40, 20}));
+  feld.show();
+  for (const bool dunkel : {false, true, false}) {
+    test::Palette_setzen(dunkel);
+    QCoreApplication::processEvents();
+    const QImage bild = feld.grab().toImage();
+    EXPECT_EQ(feld.palette().color(QPalette::Base).lightness() < 128, dunkel);
+    EXPECT_EQ(bild.pixelColor(50, 10), feld.palette().color(QPalette::Base)) << dunkel;
+    EXPECT_EQ(bild.pixelColor(50, 50), QColor(Qt::red)) << dunkel;
+  }
 }
 
 }  // namespace

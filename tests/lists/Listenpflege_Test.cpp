@@ -78,7 +78,9 @@ TEST_P(Listenpflege_Test, Texte_werden_nach_dem_Feldtyp_umgewandelt) {
                 {u""_qs, u"viel"_qs, u"/"_qs}};
   const Liste &zeiten = Listen()[0];
   for (const auto &fall : faelle) {
+    Ausfuehren({"DELETE FROM ", db::Name{zeiten.Tabelle}});
     Listenpflege pflege(zeiten);
+    pflege.Liste_laden();
     ASSERT_TRUE(pflege.Zeile_anfuegen());
     Setzen(pflege, 0, "Description", u"3 O'Tage"_qs);
     Setzen(pflege, 0, "DeliveryTimeDays", fall.Tage);
@@ -117,6 +119,24 @@ TEST_P(Listenpflege_Test, nach_einer_Zelle) {
   Dialoge.Erwarten(u"Hinweis"_qs);
   Setzen(pflege, 0, "Description", QString());
   EXPECT_EQ(pflege.Zeile_beenden(0, false), Zeilenurteil::Ablehnen);
+}
+
+TEST_P(Listenpflege_Test, eine_Tabelle_die_nicht_zu_lesen_war_bleibt_stehen) {
+  Einheit(u"A"_qs, u"1"_qs, false);
+  int gescheitert = 0;
+  for (int n = 1; n <= 12; ++n) {
+    Listenpflege pflege(Listen().back());
+    db::Fehler_einspeisen(n);
+    pflege.Liste_laden();
+    db::Fehler_einspeisen(0);
+    if (pflege.Zeilen() == 0) {
+      ++gescheitert;
+      EXPECT_FALSE(pflege.Zeile_anfuegen()) << "what is typed would be lost";
+    }
+    pflege.Liste_speichern();
+    EXPECT_EQ(Inhalt(pflege.Was()), u"A/1/0/0"_qs) << n;
+  }
+  EXPECT_GT(gescheitert, 0) << "no failing call kept the table from being read";
 }
 
 TEST_P(Listenpflege_Test, Fehler_beim_Schreiben) {

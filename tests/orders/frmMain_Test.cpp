@@ -18,6 +18,7 @@
 #include "Bestellantwort.h"
 #include "Stapelmandant.h"
 #include "articles/clsBildfeld.h"
+#include "db/Verbindung.h"
 #include "db/Zeitpunkt.h"
 #include "host/Datenbank.h"
 #include "host/Ini.h"
@@ -96,8 +97,8 @@ class frmMain_Test : public test::Mandant_Test {
   void Oeffnen() {
     Fenster = std::make_unique<frmMain>();
     test::Zeigen(*Fenster);
-    QTRY_COMPARE(Jg().Aktuelle_Zeile(), 0);
-    QTRY_VERIFY(Fenster->isActiveWindow());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Jg().Aktuelle_Zeile() == 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Fenster->isActiveWindow(); }));
   }
   clsTabelle &Jg() { return Kind<clsTabelle>(u"jgTab"); }
   QTreeWidget &Stati() { return Kind<QTreeWidget>(u"lvwAuftragsstatus"); }
@@ -343,7 +344,7 @@ TEST_P(Rechnungen_vom_Pult, Knopf_macht_Rechnungen_der_markierten) {
   frmMain fenster;
   test::Zeigen(fenster);
   auto &gitter = test::Kind<clsTabelle>(fenster, u"jgTab");
-  QTRY_COMPARE(gitter.Aktuelle_Zeile(), 0);
+  ASSERT_TRUE(QTest::qWaitFor([&gitter] { return gitter.Aktuelle_Zeile() == 0; }));
   for (const int zeile : {0, 2})
     QTest::mouseClick(gitter.viewport(), Qt::LeftButton, {}, Mitte(gitter, zeile, 0));
   QTest::mouseClick(&test::Kind<QToolButton>(fenster, u"Rechnung"), Qt::LeftButton);
@@ -465,7 +466,47 @@ TEST_P(frmMain_Test, Schliessen_mitten_in_einem_Lauf_wartet_auf_sein_Ende) {
   Eintrag(u"mnuKontext_Status_setzen_2");
   EXPECT_EQ(fragen, 1);
   EXPECT_LT(Shop.Anfragen().size(), 6U) << "the run was told to end";
-  QTRY_VERIFY(Fenster->isHidden());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Fenster->isHidden(); }));
+}
+
+TEST_P(frmMain_Test, Ein_fremder_Lauf_laesst_alles_ruhen) {
+  QImage bild(8, 8, QImage::Format_RGB32);
+  bild.fill(Qt::red);
+  ASSERT_TRUE(bild.save(Kontext.gProgrammpfad + u"noimage.jpg"_qs));
+  Kontext.gLaeuft = true;
+  Fenster = std::make_unique<frmMain>();
+  test::Zeigen(*Fenster);
+  QTest::qWait(600);  // also behind the second look
+  EXPECT_EQ(Nummern(), QStringList()) << "the list cannot be loaded now";
+  Kontext.gLaeuft = false;
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Nummern().size() == 6; }));
+
+  Kontext.gLaeuft = true;
+  QStringList gesehen;
+  db::Beobachter_setzen([&gesehen](const QString &Text) { gesehen << Text; });
+  auto &positionen = Kind<QTreeWidget>(u"lvwPositionen");
+  ASSERT_TRUE(Kind<clsBildfeld>(u"picBild").Mit_Bild());
+  {
+    const test::Modale_Schritte kein_Fenster;
+    Klick(2, u"Invoice");
+    Klick(2, u"Rebate");
+    Klick(2, u"Rebate");
+    QTest::keyClicks(QApplication::focusWidget(), u"7"_qs);
+    QTest::mouseClick(positionen.viewport(), Qt::LeftButton, {},
+                      positionen.visualItemRect(positionen.topLevelItem(1)).topLeft() + QPoint(20, 5));
+    QTest::mouseClick(&Kind<clsBildfeld>(u"picBild"), Qt::LeftButton);
+    QTest::qWait(20);
+    Fenster->close();
+  }
+  db::Beobachter_setzen({});
+  EXPECT_EQ(gesehen, QStringList());
+  EXPECT_EQ(Zelle(2, u"Rebate"), u"0.00"_qs);
+  EXPECT_EQ(Kind<QLabel>(u"lbAnzahl").text(), u"6 Bestellungen, 0 markiert"_qs);
+  EXPECT_TRUE(Fenster->isVisible());
+  Kontext.gLaeuft = false;
+  QTest::keyClick(&Jg(), Qt::Key_F5);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(Fenster->isVisible()) << "that close is forgotten";
 }
 
 TEST_P(frmMain_Test, Passt_auf_den_Bildschirm) {

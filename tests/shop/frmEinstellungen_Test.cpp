@@ -8,6 +8,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include "host/Datenbank.h"
@@ -112,6 +113,27 @@ TEST_P(frmEinstellungen_Test, Verbindungstest_gibt_das_Hochladen_frei_und_speich
   EXPECT_FALSE(testen(false));
   QTest::keyClick(&f, Qt::Key_Escape);
   EXPECT_EQ(Gespeichert("ftphostname"), QStringLiteral("ftp.laden.de")) << "the test has saved already";
+}
+
+TEST_P(frmEinstellungen_Test, ein_zweiter_Klick_startet_nichts_zweites) {
+  test::Komponenten_Attrappe host;
+  frmEinstellungen f;
+  test::Zeigen(f);
+  Seite(f, 3);
+  const auto klick = [&f] {
+    QTest::mouseClick(&Kind<QPushButton>(f, u"cmdFTP_Verbindungstest"), Qt::LeftButton);
+  };
+  host.Vorbereiten({true, true});
+  Skript.Erwarten(QStringLiteral("Hinweis"));
+  QTimer::singleShot(0, &f, [&] {  // while the first one waits
+    klick();
+    QTest::keyClick(&f, Qt::Key_Escape);
+    EXPECT_TRUE(f.isVisible());
+  });
+  klick();
+  EXPECT_EQ(host.Aufrufe.filter(QStringLiteral("FTP_Verbindungstest")).size(), 1);
+  QTest::keyClick(&f, Qt::Key_Escape);
+  EXPECT_FALSE(f.isVisible());
 }
 
 TEST_P(frmEinstellungen_Test, was_nicht_zu_zeigen_ist_bleibt_erhalten) {

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <deque>
 
+#include "ui/Fortschritt.h"
+
 namespace marklink::test {
 
 namespace {
@@ -42,6 +44,7 @@ struct Modale_Schritte::Innenleben {
 
   void Nachsehen() {
     QWidget *fenster = QApplication::activeModalWidget();
+    if (fortschritt().Offen()) return;  // a run is under way, and the window waits for its end
     if (fenster == nullptr || fenster == Beantwortet || !fenster->isVisible()) return;
     const QPointer<QWidget> wache = fenster;
     QWidget *vorher = std::exchange(Beantwortet, fenster);
@@ -59,7 +62,9 @@ struct Modale_Schritte::Innenleben {
 };
 
 Modale_Schritte::Modale_Schritte() : d(std::make_unique<Innenleben>()) {
-  QObject::connect(&d->Blick, &QTimer::timeout, &d->Blick, [this] { d->Nachsehen(); });
+  // Queued: a step opens further windows, and a timer does not run again before it has returned.
+  QObject::connect(
+      &d->Blick, &QTimer::timeout, &d->Blick, [this] { d->Nachsehen(); }, Qt::QueuedConnection);
   d->Blick.start(Blick_ms);
 }
 

@@ -2,6 +2,8 @@
 #include "ui/clsTabelle.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -113,6 +115,27 @@ TEST_F(Listentabelle_Test, neue_Zeile_tippen) {
   // A key that the column does not take opens no editor.
   QTest::keyClicks(&grid, QStringLiteral("x"));
   EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(Listentabelle_Test, Zeichenfilter_haelt_keinen_alten_Text_fest) {
+  liste.Inhalt[0][1] = QStringLiteral("5.00");
+  const auto bearbeiten = [this] {
+    grid.Zelle_anspringen(0, QStringLiteral("WebshopID"));
+    QTest::keyClick(&grid, Qt::Key_F2);
+    ASSERT_NE(editor(), nullptr);
+  };
+  bearbeiten();
+  im_editor(QString(), Qt::Key_Return);
+  EXPECT_EQ(editor(), nullptr) << "Enter closes the editor, whatever stands in it";
+  bearbeiten();
+  QTest::keyClick(editor(), Qt::Key_End);
+  for (const auto &[zwischenablage, danach] : {std::pair{u"abc", u"5.00"}, {u"1.5x", u"5.0015"}}) {
+    QApplication::clipboard()->setText(QString::fromUtf16(zwischenablage));
+    QTest::keyClick(editor(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(qobject_cast<QLineEdit *>(editor())->text(), QString::fromUtf16(danach));
+  }
+  im_editor(QStringLiteral("x6"), Qt::Key_Return);
+  EXPECT_EQ(liste.Text(), QStringLiteral("eins/5.00156 zwei/2"));
 }
 
 TEST_F(Listentabelle_Test, aufgegebene_neue_Zeile_geht_ohne_Spur) {

@@ -29,7 +29,7 @@ void Fenster_einrichten() {
   if (Eingerichtet || Dialoge_gesetzt() || programm == nullptr || !programm->inherits("QApplication")) return;
   Eingerichtet = true;
   Oberflaeche_einrichten();
-  Verbindungsfenster_setzen(&Verbindungsfenster_zeigen);
+  if (Verbindungsfenster_gesetzt() == nullptr) Verbindungsfenster_setzen(&Verbindungsfenster_zeigen);
   Schirme_anmelden();
   // No window may outlive the application.
   qAddPostRoutine(&Fenster_abbauen);
@@ -39,7 +39,7 @@ void Fenster_abbauen() {
   if (!Eingerichtet) return;
   Eingerichtet = false;
   qRemovePostRoutine(&Fenster_abbauen);
-  Verbindungsfenster_setzen(nullptr);
+  if (Verbindungsfenster_gesetzt() == &Verbindungsfenster_zeigen) Verbindungsfenster_setzen(nullptr);
   Oberflaeche_abbauen();
 }
 

@@ -3,6 +3,7 @@
 #include "marklink/common.h"
 
 #include "Fenster_einrichten.h"
+#include "db/Ablaufverfolgung.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
 #include "host/Programmstart.h"
@@ -13,16 +14,56 @@ namespace {
 
 QString Projekt() { return Option_lesen(QStringLiteral("Marklink"), QStringLiteral("project")); }
 
-void Schirm(const char *Name) { dialoge().Schirm_zeigen(QLatin1String(Name)); }
+/// The windows are there as long as any object is: afterwards the host may unload the library. One that is
+/// open when the last object goes stays until it is closed.
+int Objekte = 0;
+int Aufrufe = 0;  ///< calls under way that show something
+
+void Fenster_freigeben() {
+  if (Objekte == 0 && Aufrufe == 0) Fenster_abbauen();
+}
+
+/// A call that may show something. Behind it the object may be gone: the message loop ran.
+class Aufruf {
+ public:
+  Aufruf() {
+    ++Aufrufe;
+    Fenster_einrichten();  // the application may be younger than the object
+  }
+  ~Aufruf() {
+    --Aufrufe;
+    Fenster_freigeben();
+  }
+  Aufruf(const Aufruf &) = delete;
+  Aufruf &operator=(const Aufruf &) = delete;
+};
+
+void Schirm(const char *Name) {
+  const Aufruf aufruf;
+  dialoge().Schirm_zeigen(QLatin1String(Name));
+}
 
 void Fehlschlag_melden(const QString &Zeile) {
+  const Aufruf aufruf;
   dialoge().Meldung(QStringLiteral("Fehler"),
                     {QStringLiteral("Beim Synchronisieren ist ein Fehler aufgetreten."), Zeile},
                     Symbol::Stopp);
 }
 
-/// The windows are there as long as any object is: afterwards the host may unload the library.
-int Objekte = 0;
+/// Lets the user set up the shop project; false when there is still none afterwards.
+bool Projekt_nachholen() {
+  const QString hinweis = QStringLiteral("Hinweis");
+  dialoge().Meldung(hinweis,
+                    {QStringLiteral("Nehmen Sie zunächst bitte die Einstellungen für Marklink vor.")},
+                    Symbol::Information);
+  Schirm("frmEinstellungen");
+  if (!Projekt().isEmpty()) return true;
+  dialoge().Meldung(hinweis,
+                    {QStringLiteral("Sie haben leider kein Projekt für Marklink definiert."),
+                     QStringLiteral("Die Auftragsverwaltung kann nicht geöffnet werden.")},
+                    Symbol::Warnung);
+  return false;
+}
 
 class common_Objekt : public common {
  public:
@@ -31,13 +72,21 @@ class common_Objekt : public common {
     Fenster_einrichten();
   }
   ~common_Objekt() override {
-    if (--Objekte == 0) Fenster_abbauen();
+    --Objekte;
+    Fenster_freigeben();
   }
 
   QString Message_Info() override { return QStringLiteral("Schnittstelle für Marklink ab Version 1.0.8"); }
 
   bool Initialisierung(const QString &Firmenname, const QString &Benutzername, const bool & /*Init*/,
                        const bool & /*ShowMessage*/) override {
+    // What is open or under way would go on in another client's books.
+    if (Aufrufe > 0 || Kontext.gLaeuft) {
+      Ablauf_melden(QStringLiteral("Initialisierung"),
+                    QStringLiteral("refused while a window or run is open"));
+      return false;
+    }
+    const Aufruf aufruf;
     Programmkontext neu;
     neu.gFirmenname = Firmenname;
     neu.gBenutzername = Benutzername;
@@ -46,7 +95,7 @@ class common_Objekt : public common {
     Mandant_initialisieren();
     if (Projekt().isEmpty() && !Projekt_nachholen()) return false;
     if (Option_lesen(QStringLiteral("Marklink"), QStringLiteral("wizard")) == QLatin1String("1"))
-      Show_Wizard();
+      Schirm("frmWizard");
     return true;
   }
 
@@ -76,22 +125,6 @@ class common_Objekt : public common {
   }
   void Sonderpreise_synchronisieren_varda() override {
     Fehlschlag_melden(QStringLiteral("Die Sonderpreise konnten nicht erzeugt bzw. aktualisiert werden."));
-  }
-
- private:
-  /// Lets the user set up the shop project; false when there is still none afterwards.
-  bool Projekt_nachholen() {
-    const QString hinweis = QStringLiteral("Hinweis");
-    dialoge().Meldung(hinweis,
-                      {QStringLiteral("Nehmen Sie zunächst bitte die Einstellungen für Marklink vor.")},
-                      Symbol::Information);
-    Show_Einstellungen();
-    if (!Projekt().isEmpty()) return true;
-    dialoge().Meldung(hinweis,
-                      {QStringLiteral("Sie haben leider kein Projekt für Marklink definiert."),
-                       QStringLiteral("Die Auftragsverwaltung kann nicht geöffnet werden.")},
-                      Symbol::Warnung);
-    return false;
   }
 };
 
