@@ -1,11 +1,10 @@
 // marklink bestellungen: what the order desk does, without its window.
-#include <QJsonDocument>
-
 #include "Aufrufwerte.h"
 #include "Ausgabe.h"
 #include "Bestellausgabe.h"
 #include "Bestellauswahl.h"
 #include "Sitzung.h"
+#include "Werteausgabe.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
 #include "host/Zeichensatz.h"
@@ -35,10 +34,6 @@ bool Stati_ankreuzen(Auftragsliste &Liste, const QStringList &Stati) {
     return false;
   }
   return true;
-}
-
-void Json_ausgeben(const QJsonDocument &Dokument) {
-  Ausgeben(QString::fromUtf8(Dokument.toJson()).trimmed());
 }
 
 int Unbekannte_Bestellung(const QString &Nummer) {

@@ -1,4 +1,6 @@
 // marklink mandant: new clients.
+#include <QFile>
+
 #include "Aufrufwerte.h"
 #include "Ausgabe.h"
 #include "Mandant_anlegen.h"
@@ -33,8 +35,16 @@ std::vector<app::Einstellung> Demoshop_Zugang(int Port) {
   return zugang;
 }
 
+/// The shipper's values; a workbook that is there already may be somebody's own.
+bool Wertemappe_ablegen() {
+  const QString ziel = Kontext.gVersandkostendatei;
+  if (QFile::exists(ziel)) return true;
+  return QFile::copy(QStringLiteral(":/marklink/demo/Wertemappe.xls"), ziel) &&
+         QFile::setPermissions(ziel, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
 bool Demodaten_schreiben() {
-  return demo::Demomandant_schreiben(Kontext.gConnectionString, uhr().Jetzt().date());
+  return Wertemappe_ablegen() && demo::Demomandant_schreiben(Kontext.gConnectionString, uhr().Jetzt().date());
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "Sitzung.h"
 #include "host/Kontext.h"
 #include "marklink/common.h"
+#include "ui/Dialoge.h"
 
 namespace marklink {
 namespace {
@@ -12,13 +13,17 @@ namespace {
 struct Schirmbefehl {
   const char *Name;
   bool (*Oeffnen)(const Aufruf &A);
-  void (common::*Zeigen)();
+  void (*Zeigen)(common &Objekt);
 };
 
 /// The settings are what makes a client complete, so they open without a shop project too.
 constexpr Schirmbefehl Schirmbefehle[] = {
-    {"auftragsverwaltung", &Mandant_oeffnen, &common::Show_Main},
-    {"einstellungen", &Einstellungen_oeffnen, &common::Show_Einstellungen},
+    {"auftragsverwaltung", &Mandant_oeffnen, [](common &O) { O.Show_Main(); }},
+    {"einstellungen", &Einstellungen_oeffnen, [](common &O) { O.Show_Einstellungen(); }},
+    {"versand", &Mandant_oeffnen,
+     [](common &) { dialoge().Schirm_zeigen(QStringLiteral("frmVersender_EASYLOG")); }},
+    {"versand_einstellungen", &Einstellungen_oeffnen,
+     [](common &) { dialoge().Schirm_zeigen(QStringLiteral("frmVersender_EASYLOG_Einstellungen")); }},
 };
 
 const Schirmbefehl *Schirm_suchen(const QString &Name) {
@@ -49,7 +54,7 @@ int Befehl_Schirm(const Aufruf &A) {
   // Made first: it brings the windows that opening a client may already show.
   const auto objekt = Objekt_erzeugen();
   if (!befehl->Oeffnen(A)) return Fehlgeschlagen;
-  ((*objekt).*(befehl->Zeigen))();
+  befehl->Zeigen(*objekt);
   return Erledigt;
 }
 

@@ -12,6 +12,9 @@ const Optionsbeschreibung Typ{QStringLiteral("typ"), QStringLiteral("0|1"),
 const Optionsbeschreibung Stati{QStringLiteral("status"), QStringLiteral("1,3"),
                                 QStringLiteral("nur Bestellungen mit diesen Status-IDs")};
 const Optionsbeschreibung Json{QStringLiteral("json"), {}, QStringLiteral("Ausgabe als JSON")};
+const Optionsbeschreibung Zeitraum{
+    QStringLiteral("zeitraum"), QStringLiteral("N"),
+    QStringLiteral("Zeitraum 0 bis 40 (Vorgabe: der zuletzt gewählte; 0: alle)")};
 const Optionsbeschreibung Alle{
     QStringLiteral("alle"), {}, QStringLiteral("statt Nummern: alle Bestellungen")};
 
@@ -67,10 +70,7 @@ std::vector<Befehl> Bestellbefehle() {
       {gruppe,
        QStringLiteral("liste"),
        {},
-       {Stati,
-        {QStringLiteral("zeitraum"), QStringLiteral("N"),
-         QStringLiteral("Zeitraum 0 bis 40 (Vorgabe: der zuletzt gewählte; 0: alle)")},
-        Json},
+       {Stati, Zeitraum, Json},
        QStringLiteral("zeigt die abgerufenen Bestellungen"),
        &Befehl_Bestellungen_liste},
       {gruppe,
@@ -139,6 +139,39 @@ std::vector<Befehl> Belegbefehle() {
   };
 }
 
+std::vector<Befehl> Versandbefehle() {
+  const QString gruppe = QStringLiteral("versand");
+  return {
+      {gruppe,
+       QStringLiteral("liste"),
+       {},
+       {Zeitraum, Json},
+       QStringLiteral("zeigt die Versandaufträge, die noch nicht exportiert sind"),
+       &Befehl_Versand_liste},
+      {gruppe,
+       QStringLiteral("uebergeben"),
+       {{QStringLiteral("NR")}},
+       {{QStringLiteral("referenz"), QStringLiteral("TEXT"),
+         QStringLiteral("Referenznummer der Sendung (Vorgabe: die Bestellnummer)")}},
+       QStringLiteral("übergibt eine Bestellung ohne Beleg an den Versand; ein Versandauftrag, den sie schon "
+                      "hat, wird neu erstellt"),
+       &Befehl_Versand_uebergeben},
+      {gruppe,
+       QStringLiteral("exportieren"),
+       {},
+       {},
+       QStringLiteral("schreibt alle offenen Versandaufträge in die Exportdatei der Versandsoftware "
+                      "(Einstellung 'file' im Abschnitt 'easylog')"),
+       &Befehl_Versand_exportieren},
+      {gruppe,
+       QStringLiteral("loeschen"),
+       {},
+       {},
+       QStringLiteral("löscht alle Versandaufträge in Varda, nach Rückfrage"),
+       &Befehl_Versand_loeschen},
+  };
+}
+
 Befehl Lagerbefehl() {
   return {
       QStringLiteral("lager"),
@@ -188,6 +221,7 @@ std::vector<Befehl> Alle_Befehle() {
     alle.insert(alle.end(), teil.begin(), teil.end());
   alle.push_back(Kundenbefehl());
   for (const Befehl &befehl : Belegbefehle()) alle.push_back(befehl);
+  for (const Befehl &befehl : Versandbefehle()) alle.push_back(befehl);
   alle.push_back(Lagerbefehl());
   alle.push_back(Nummernbefehl());
   alle.push_back({QStringLiteral("preis"),
@@ -220,6 +254,7 @@ const std::vector<Befehlsgruppe> &Befehlsgruppen() {
       {QStringLiteral("bestellungen"), QStringLiteral("Bestellungen abrufen, zeigen und fortschreiben")},
       {QStringLiteral("kunden"), QStringLiteral("Kunden der Bestellungen anlegen")},
       {QStringLiteral("belege"), QStringLiteral("Aufträge und Rechnungen aus Bestellungen erstellen")},
+      {QStringLiteral("versand"), QStringLiteral("Versandaufträge für die Versandsoftware")},
       {QStringLiteral("lager"), QStringLiteral("Bestand prüfen")},
       {QStringLiteral("nummer"), QStringLiteral("die nächste Nummer eines Nummernkreises zeigen")},
       {QStringLiteral("posten"), QStringLiteral("den offenen Posten einer Rechnung zeigen")},

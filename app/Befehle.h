@@ -65,6 +65,10 @@ int Befehl_Nummer(const Aufruf &A);
 int Befehl_Posten(const Aufruf &A);
 int Befehl_Preis(const Aufruf &A);
 int Befehl_Schirm(const Aufruf &A);
+int Befehl_Versand_liste(const Aufruf &A);
+int Befehl_Versand_uebergeben(const Aufruf &A);
+int Befehl_Versand_exportieren(const Aufruf &A);
+int Befehl_Versand_loeschen(const Aufruf &A);
 int Befehl_Versandkosten(const Aufruf &A);
 int Befehl_Vervollstaendigung(const Aufruf &A);
 

@@ -1,13 +1,9 @@
 // Orders as text and as JSON.
 #include "Bestellausgabe.h"
 
-#include <QDateTime>
-#include <QJsonValue>
-
 #include "Ausgabe.h"
 #include "Texttabelle.h"
-#include "host/Datumsbilder.h"
-#include "host/Zahlen.h"
+#include "Werteausgabe.h"
 #include "orders/Bestellstatus.h"
 #include "orders/Positionstext.h"
 
@@ -15,35 +11,13 @@ namespace marklink {
 namespace {
 
 QString Zelltext(const Auftragsliste &Liste, int Zeile, const char *Schluessel) {
-  const QVariant wert = Liste.Zelle(Zeile, Schluessel);
-  if (wert.isNull()) return {};
-  switch (wert.typeId()) {
-    case QMetaType::QDateTime:
-    case QMetaType::QDate:
-      return Zeitpunkt_als_Text(wert.toDateTime());
-    case QMetaType::Double:
-      return Zahl_formatieren(wert.toDouble(), QStringLiteral("standard"));
-    default:
-      return wert.toString();
-  }
+  return Werttext(Liste.Zelle(Zeile, Schluessel));
 }
 
 QString Statustext(const Auftragsliste &Liste, const QString &Id) {
   for (const Listenzeile &z : Liste.lvwAuftragsstatus.Zeilen)
     if (z.Spalten.value(1) == Id) return QStringLiteral("%1 (%2)").arg(Id, z.Spalten.value(0));
   return Id;
-}
-
-QJsonValue Als_Json(const QVariant &Wert) {
-  if (Wert.isNull()) return QJsonValue::Null;
-  switch (Wert.typeId()) {
-    case QMetaType::QDateTime:
-      return Wert.toDateTime().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"));
-    case QMetaType::QDate:
-      return Wert.toDate().toString(Qt::ISODate);
-    default:
-      return QJsonValue::fromVariant(Wert);
-  }
 }
 
 QString Block(const QString &Titel, const QString &Text) {

@@ -27,6 +27,44 @@ inline const std::string KOPFFELDER =
     "WorksOnLastOf, "
     "CashAmount, DuePayment, Paid, InvoiceType";
 
+/// What a shipment takes over from its order.
+inline const std::string BESTELLFELDER =
+    "OrderID, CustomerID, Customer, CustomerNumber, Telephone, Email, VatID, CustomerType, Rebate, Status, "
+    "OrderIP, Currency, Amount, Notes, Invoice, Payment, PaymentPractice, Shipping, ExtendedInfo, "
+    "InvoiceCompany, InvoiceName, InvoiceFirstname, InvoiceLastname, InvoiceStreet, InvoicePostcode, "
+    "InvoiceCity, InvoiceSuburb, InvoiceCountry, InvoiceAddress, DeliveryCompany, DeliveryName, "
+    "DeliveryFirstname, DeliveryLastname, DeliveryStreet, DeliveryPostcode, DeliveryCity, DeliverySuburb, "
+    "DeliveryCountry, DeliveryAddress, Positions, Logistic";
+
+/// The shipper's fields that stay empty.
+inline const std::string LEERFELDER =
+    "POOL_V_ABS_REFNR, POOL_V_ABS_BEMERKUNG, POOL_V_MAND_REFNR, POOL_V_VERFAHREN, POOL_V_TEILNAHME, "
+    "POOL_V_PRODUKT_CN, POOL_V_KSTSTELLE_KUERZEL, POOL_V_EXTRASLST, POOL_EMPF_REFNR, POOL_EMPF_NAME1, "
+    "POOL_EMPF_NAME2, POOL_EMPF_NAME3, POOL_EMPF_PLZ, POOL_EMPF_ORT, POOL_EMPF_ORTTEIL, "
+    "POOL_EMPF_STRASSE, POOL_EMPF_TEL, POOL_EMPF_FAX, POOL_EMPF_APARTNER, POOL_EMPF_BEMERKUNG, "
+    "POOL_EMPF_USTID, POOL_V_ZOLL_WARENLISTE, POOL_V_VORAUSVERF_NAT_UNZUST, POOL_V_VORAUSVERF_INT_TRANSP, "
+    "POOL_ABWERK_ANZAHL, POOL_ABWERK_NR, POOL_ABWERK_DATE, POOL_ABWERK_BBNNR, POOL_SHIPMENT_ID, "
+    "POOL_VORDATE, POOL_EXWORKS, POOL_CONTENTS, POOL_IDENTEXPRESS, POOL_EXTRADATA, POOL_SENDUNGSINHALTDHL, "
+    "POOL_RECHNUNGSARTDHL, POOL_RECHNUNGSNUMMERDHL, POOL_RECHNUNGSDATUMDHL, POOL_UNTERZEICHNERDHL, "
+    "POOL_ZOLLTARIFDHL, POOL_RECHNUNGSBEMDHL, POOL_EXPORTARTDHL, POOL_HANDELSBEDINGUNGENDHL, "
+    "POOL_RECHNUNGSPOSITIONENDHL";
+
+inline std::string Versand_einfuegen() {
+  std::string leere = "''";
+  for (const char z : LEERFELDER)
+    if (z == ',') leere += ", ''";
+  return "INSERT INTO LogisticsEASYLOG (" + BESTELLFELDER +
+         ", document, DocumentNumber, Date, Conveyed, POOL_REFNR, POOL_V_NN_WAEHRUNG, POOL_WERT_WAEHRUNG, "
+         "POOL_EMPF_HAUSNR, POOL_EMPF_EMAIL, POOL_EMPF_LANDCODE, POOL_EMPF_GEWICHT, POOL_ANZAHL_SENDUNGEN, "
+         "POOL_V_ZOLL_WARENART, POOL_V_VORAUSVERF_NAT, POOL_V_VORAUSVERF_INT, POOL_EPACK_VORAUS, "
+         "POOL_EP_VORAUS, POOL_V_VORAUSVERF_INT_TERMIN, POOL_VERWENDUNGSZWECK, " +
+         LEERFELDER + ") SELECT " + BESTELLFELDER +
+         ", 'Rechnung', ?1, ?2, 0, ?1, ?3, ?3, ' ', Email, DeliveryCountry, ?4, '1', '4', '0', '0', '0', "
+         "'0', "
+         "'0', ?5, " +
+         leere + " FROM WebshopOrdersXTC WHERE OrderID = ?6";
+}
+
 inline std::string Einfuegen(const std::string &Tabelle, const std::string &Felder) {
   std::string marken = "?";
   for (const char z : Felder)
@@ -121,6 +159,15 @@ struct Anweisungen {
   Satz Rueckstand_loeschen_{Db_,
                             "DELETE FROM BackOrder WHERE document = 'Rechnung' AND DocumentNumber = ? AND "
                             "CustomerNumber = ?"};
+  Satz Land_lesen_{Db_, "SELECT Description FROM Countries WHERE Token = ?"};
+  Satz Waehrung_lesen_{Db_, "SELECT Currency FROM Countries WHERE Description = ?"};
+  Satz Nachnahme_{Db_, "SELECT CashOnDelivery FROM MethodPayments WHERE Description = ?"};
+  Satz Gewicht_{
+      Db_,
+      "SELECT sum(WeightGross * Quantity) FROM Positions WHERE document = 'Rechnung' AND DocumentNumber = ?"};
+  Satz Versand_da_{Db_, "SELECT 1 FROM LogisticsEASYLOG WHERE OrderID = ?"};
+  Satz Versand_einfuegen_{Db_, Versand_einfuegen()};
+  Satz Uebergeben_{Db_, "UPDATE WebshopOrdersXTC SET Logistic = ? WHERE OrderID = ?"};
 };
 
 }  // namespace marklink::messung

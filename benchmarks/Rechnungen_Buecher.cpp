@@ -76,10 +76,11 @@ class Schreiber {
 
 void Stammdaten(Schreiber &S, int Wahr) {
   S.Lauf(Q("INSERT INTO Taxes (TaxKeyNumber, Percentage) VALUES ('1', 19.0), ('2', 7.0)"));
-  S.Lauf(QStringLiteral(
-             "INSERT INTO Countries (Token, Description, EU) VALUES ('DE', 'Deutschland', %1), ('AT', "
-             "'Österreich', %1), ('CH', 'Schweiz', 0)")
-             .arg(Wahr));
+  S.Lauf(
+      QStringLiteral(
+          "INSERT INTO Countries (Token, Description, EU, Currency) VALUES ('DE', 'Deutschland', %1, 'EUR'), "
+          "('AT', 'Österreich', %1, 'EUR'), ('CH', 'Schweiz', 0, 'CHF')")
+          .arg(Wahr));
   S.Lauf(QStringLiteral("INSERT INTO ArticleTypes (Description, Stock) VALUES ('Ware', %1), ('Dienst', 0)")
              .arg(Wahr));
   S.Lauf(
@@ -215,6 +216,7 @@ void Mandant_waehlen(const QString &Ordner, int Typ) {
   Kontext.gPreisNachkommastellen = 2;
   Kontext.gPositionFormat = Q("000");
   Kontext.gMassFormat = Q("#,##0.##");
+  Kontext.gGewichtsformat = Q("##,#####0.000");
   Kontext.gCountry = Q("Deutschland");
   Kontext.gAfkDatei = Typ == 0 ? Ordner + Q("/buecher.afk") : QString();
   Kontext.gConnectionString =
@@ -246,8 +248,8 @@ int Abweichungen_zaehlen(const QString &Ordner, const QString &Anderer) {
   s.Lauf(Q("COMMIT"));
   s.Lauf(QStringLiteral("ATTACH '%1/buecher.mdb' AS b").arg(Anderer));
   int summe = s.Gut ? 0 : -1;
-  for (const char *tabelle :
-       {"Invoice", "Positions", "OpenItems", "Reservations", "Warehouse", "Articles", "Options"})
+  for (const char *tabelle : {"Invoice", "Positions", "OpenItems", "Reservations", "Warehouse", "Articles",
+                              "LogisticsEASYLOG", "WebshopOrdersXTC", "Options"})
     for (const char *richtung : {"SELECT * FROM main.%1 EXCEPT SELECT * FROM b.%1",
                                  "SELECT * FROM b.%1 EXCEPT SELECT * FROM main.%1"}) {
       const int zahl = s.Zahl(QStringLiteral("SELECT count(*) FROM (%1)").arg(Q(richtung).arg(Q(tabelle))));

@@ -70,6 +70,7 @@ class Abrechnung : Anweisungen {
   void Reservieren();
   void Ausbuchen();
   void Artikelsummen();
+  void Versenden();
   template <typename Arbeit>
   void Schritt(Arbeit arbeit) {
     Beginn_.Lauf();
@@ -274,6 +275,28 @@ void Abrechnung::Ausbuchen() {
   Artikelsummen();
 }
 
+void Abrechnung::Versenden() {
+  Versand_da_.Lauf(Bestellung_);
+  Versand_da_.Ende();
+  Land_lesen_.Lauf("DE");
+  const std::string land = Land_lesen_.Text(0);
+  Waehrung_lesen_.Lauf(land);
+  const std::string waehrung = Waehrung_lesen_.Text(0);
+  Nachnahme_.Lauf("Rechnung");
+  Gewicht_.Lauf(Nummer_);
+  char gewicht[32];
+  std::snprintf(gewicht, sizeof gewicht, "%.3f", Gewicht_.Zahl(0));
+  for (char &z : gewicht)
+    if (z == '.') z = ',';
+  for (Satz *s : {&Land_lesen_, &Waehrung_lesen_, &Nachnahme_, &Gewicht_}) s->Ende();
+  Schritt([&] {
+    Versand_einfuegen_.Lauf(Nummer_, HEUTE, waehrung, gewicht,
+                            "Ihre Bestellung: " + Bestellung_ + " \xC2\xB7 Kundennr. " + Kunde_.Nummer,
+                            Bestellung_);
+  });
+  Schritt([&] { Uebergeben_.Lauf(Wahr_, Bestellung_); });
+}
+
 void Abrechnung::Rechnung(const std::string &Bestellung, const std::string &Kundennummer) {
   Bestellung_lesen_.Lauf(Bestellung);
   Bestellung_ = Bestellung_lesen_.Text(0);
@@ -293,6 +316,7 @@ void Abrechnung::Rechnung(const std::string &Bestellung, const std::string &Kund
   Posten();
   Reservieren();
   Ausbuchen();
+  Versenden();
 }
 
 }  // namespace

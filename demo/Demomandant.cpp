@@ -95,11 +95,16 @@ std::vector<Demoeinstellung> Demomandant_Einstellungen(int Port) {
   const auto Kreis = [](const char *Name, const char *Stand) {
     return Demoeinstellung{QStringLiteral("NumberRange"), QLatin1String(Name), QLatin1String(Stand)};
   };
+  const auto Versand = [](const char *Schluessel, const char *Wert) {
+    return Demoeinstellung{QStringLiteral("easylog"), QLatin1String(Schluessel), QLatin1String(Wert)};
+  };
   return {Zeile("project", QStringLiteral("Demo-Shop")), Zeile("hostname", QStringLiteral("127.0.0.1")),
           Zeile("port", QString::number(Port)), Zeile("folder", QStringLiteral("/")),
           Zeile("username", Shopzugang::Benutzer()), Zeile("password", Shopzugang::Passwort()),
           // German is number 2 in the shop; articles fetched later keep the shop's numbers.
           Zeile("language", QStringLiteral("2")), Zeile("disposeproductid", QStringLiteral("1")),
+          Versand("ekp", "5012345678"), Versand("client", "01"), Versand("delimiter", "|"),
+          Versand("columnheader", "1"), Versand("appendrecords", "1"),
           // The demo's documents have the numbers before these. Payments are one behind, as after a crash:
           // the next one has to step over a number that is taken.
           Kreis("Contract", "00003"), Kreis("Invoice", "00014"), Kreis("OpenItem", "000018"),

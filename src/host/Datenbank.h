@@ -25,7 +25,9 @@ QString Connection_String_bilden(const QString &Datenbank, const QString &Server
 void Optionen_laden();
 /// Lets the settings store's connection go; the cache stays.
 void Optionen_freigeben();
-/// A setting of the client; empty when missing. Type 0 cuts at 255 characters.
+/// A setting can be read back to this many characters on type 0, whatever was written.
+constexpr int Laengste_Einstellung = 255;
+/// A setting of the client; empty when missing.
 QString Option_lesen(const QString &Abschnitt, const QString &Schluessel);
 /// A setting of the section "Program".
 QString Programmoption(const char *Schluessel);

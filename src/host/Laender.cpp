@@ -30,6 +30,8 @@ QString Land_aus_Token(const QString &Token) {
 
 bool Land_ist_EU(const QString &Land) { return Land_lesen(Land, "EU").Flag(QStringLiteral("EU")); }
 
+bool Land_ist_Ausland(const QString &Land) { return !Land.trimmed().isEmpty() && Land != Kontext.gCountry; }
+
 double Land_Versandfreigrenze(const QString &Land) {
   const db::Recordset rs = Land_lesen(Land, "FreeShippingAmount");
   if (rs.RecordCount() > 0) return rs.Number(QStringLiteral("FreeShippingAmount"));

@@ -10,6 +10,8 @@ namespace marklink {
 QString Adressformat_ermitteln(const QString &Wert, const QString &Spalte);
 QString Land_aus_Token(const QString &Token);  ///< Description; empty when unknown
 bool Land_ist_EU(const QString &Land);         ///< false when unknown
+/// Whether it is named and is not the home country (Kontext.gCountry).
+bool Land_ist_Ausland(const QString &Land);
 /// Free-shipping amount; of an unknown country the setting Program/FreeShippingAmount.
 double Land_Versandfreigrenze(const QString &Land);
 QString Land_Waehrung(const QString &Land);

@@ -28,8 +28,7 @@ QString Anschriftblock_erzeugen(const pugi::xml_node &Anschrift) {
     if (!block.contains(feld.Name)) continue;
     block.replace(feld.Name, feld.Knoten ? Knoten_Text(Anschrift, feld.Knoten) : QString());
   }
-  const bool zeigen = !land.trimmed().isEmpty() && land != Kontext.gCountry;
-  block.replace(QLatin1String("$Country"), zeigen ? land.toUpper() : QString());
+  block.replace(QLatin1String("$Country"), Land_ist_Ausland(land) ? land.toUpper() : QString());
   return block;
 }
 

@@ -79,12 +79,6 @@ std::vector<Positionszeile> Auftrag_Positionen_anzeigen(const QString &Bestellnu
   return zeilen;
 }
 
-Auftragsanschriften Auftrag_Anschriften_anzeigen(const QString &Bestellnummer) {
-  const db::Recordset satz =
-      Abfragen({"SELECT * FROM WebshopOrdersXTC WHERE OrderID = ", db::Wert{Bestellnummer}});
-  return {satz.Text(QStringLiteral("InvoiceAddress")), satz.Text(QStringLiteral("DeliveryAddress"))};
-}
-
 Artikelanzeige Artikel_anzeigen(const QString &ShopID, const QString &Variantentext) {
   Artikelanzeige artikel;
   artikel.Bild = Ersatzbild();

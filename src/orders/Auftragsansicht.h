@@ -7,16 +7,13 @@
 #include <vector>
 
 #include "Auftragsliste.h"
+#include "ui/Auftragsanschriften.h"
 
 namespace marklink {
 
 /// A row of the position list, ready to show.
 struct Positionszeile {
   QString ProductsID, Artikelnummer, Menge, Bezeichnung, Optionen, Einzelpreis, Rabatt;
-};
-
-struct Auftragsanschriften {
-  QString InvoiceAddress, DeliveryAddress;
 };
 
 struct Artikelanzeige {
@@ -34,7 +31,6 @@ struct Auftragsanzeige {
 };
 
 std::vector<Positionszeile> Auftrag_Positionen_anzeigen(const QString &Bestellnummer);
-Auftragsanschriften Auftrag_Anschriften_anzeigen(const QString &Bestellnummer);
 Artikelanzeige Artikel_anzeigen(const QString &ShopID, const QString &Variantentext);
 /// The current row's order; nothing while a batch runs, without rows, or without an order number.
 std::optional<Auftragsanzeige> Auftrag_anzeigen(const Auftragsliste &Liste);

@@ -5,9 +5,7 @@
 #include <cstring>
 
 #include "host/Datenbank.h"
-#include "host/Kontext.h"
-#include "ui/Fortschritt.h"
-#include "ui/Zeitraum.h"
+#include "ui/Listenladung.h"
 
 namespace marklink {
 
@@ -79,40 +77,19 @@ db::Anweisung Auftragsliste::Ladeanweisung() const {
   db::Anweisung bedingung;
   const QStringList stati = Zeilen_markierte(lvwAuftragsstatus, STATUS_SPALTE);
   if (!stati.isEmpty()) bedingung = {" WHERE Status IN (", db::Werteliste{stati}, ")"};
-  if (Kontext.gViewablePeriod != 0) {
+  if (const db::Anweisung zeitraum = Zeitraumbedingung(QStringLiteral("[Date]")); !zeitraum.Leer()) {
     bedingung += bedingung.Leer() ? db::Anweisung(" WHERE ") : db::Anweisung(" AND ");
-    bedingung +=
-        db::Anweisung("", db::Teiltext{Zeitraum_ermitteln(Kontext.gViewablePeriod, Zeitraum_Modus::Bedingung,
-                                                          QStringLiteral("[Date]"), QString())});
+    bedingung += zeitraum;
   }
   return {"SELECT * FROM WebshopOrdersXTC", bedingung, " ORDER BY OrderID, Date"};
 }
 
 void Auftragsliste::Auftragsliste_laden() {
-  const std::vector<QString> &felder = Feldnamen();
-  const QString bestellnummer = QStringLiteral("OrderID");
   db::Recordset satz = Abfragen(Ladeanweisung());
-  const int anzahl = satz.RecordCount();
-  fortschritt().ProgressAnzeigen(QStringLiteral("Die Bestellungen werden eingelesen..."), anzahl);
-  Kontext.gLaeuft = true;
-  Zellen_.Leeren();
-  Zellen_.Reservieren(anzahl);
   Aktuell_ = -1;
-  for (; !satz.IsEOF() && !Kontext.gAbbrechen; satz.MoveNext()) {
-    fortschritt().Text(QStringLiteral("Bestellung '") + satz.Text(bestellnummer) +
-                       QStringLiteral("' wird eingelesen..."));
-    const int zeile = Zellen_.Zeile_anfuegen();
-    for (std::size_t spalte = 0; spalte < felder.size(); ++spalte) {
-      if (felder[spalte].isEmpty()) continue;
-      if (const auto text = satz.Textbytes(felder[spalte]))
-        Zellen_.Text_schreiben(zeile, static_cast<int>(spalte), *text);
-      else
-        Zellen_.Schreiben(zeile, static_cast<int>(spalte), satz.Value(felder[spalte]));
-    }
-    fortschritt().Wert(zeile + 1);
-  }
-  fortschritt().Verbergen();
-  Kontext.gLaeuft = false;
+  Zeilen_einlesen(Zellen_, satz, Feldnamen(),
+                  {QStringLiteral("Die Bestellungen werden eingelesen..."),
+                   QStringLiteral("Bestellung '%1' wird eingelesen...")});
   if (Zeilenzahl() > 0) Aktuell_ = 0;
   if (Geladen) Geladen();
 }

@@ -7,9 +7,9 @@
 #include <functional>
 #include <vector>
 
-#include "Zellenspeicher.h"
 #include "db/Anweisung.h"
 #include "ui/Pruefliste.h"
+#include "ui/Zellenspeicher.h"
 
 namespace marklink {
 

@@ -41,7 +41,7 @@ QIcon Statusbild(std::optional<qint32> Farbe, const QPalette &Palette) {
 }  // namespace
 
 frmMain::frmMain(QWidget *Eltern)
-    : QMainWindow(Eltern),
+    : clsArbeitsfenster(Eltern),
       mnuKontext(new QMenu(this)),
       mnuStatus_setzen(new QMenu(this)),
       jgTab(new clsTabelle),
@@ -53,8 +53,7 @@ frmMain::frmMain(QWidget *Eltern)
       lbAnzahl(new QLabel) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QStringLiteral("Auftragsverwaltung für Marklink ab Version 1.0.8"));
-  Leiste_bauen();
-  Menue_bauen();
+  Befehle_bauen();
   Flaechen_bauen();
   Symbole_zeichnen();
   Pult_.Oeffnen();

@@ -1,17 +1,12 @@
 // The order desk.
 #pragma once
 
-#include <QHash>
-#include <QMainWindow>
-
 #include "Auftragspult.h"
+#include "ui/clsArbeitsfenster.h"
 
-class QAction;
 class QComboBox;
 class QLabel;
-class QMenu;
 class QSplitter;
-class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -21,34 +16,25 @@ class clsAuftragsansicht;
 class clsTabelle;
 
 /// "Auftragsverwaltung für Marklink ab Version 1.0.8". Loads its list when it is first shown.
-class frmMain : public QMainWindow {
+class frmMain : public clsArbeitsfenster {
   Q_OBJECT
  public:
   explicit frmMain(QWidget *Eltern = nullptr);
   ~frmMain() override;
 
-  /// Shows the window modally and returns when it is closed; one that is open comes to the front.
-  static void Zeigen();
-
- Q_SIGNALS:
-  void Geschlossen();
-
  protected:
-  void showEvent(QShowEvent *Ereignis) override;
-  void closeEvent(QCloseEvent *Ereignis) override;
+  void Befehl(const QString &Schluessel) override;
+  void Erste_Aktivierung() override { Pult_.Erste_Aktivierung(); }
+  bool Bearbeitung_abschliessen() override;
+  bool Beenden() override;
+  void Symbole_gezeichnet() override;
   void keyPressEvent(QKeyEvent *Ereignis) override;
-  void changeEvent(QEvent *Ereignis) override;
-  bool eventFilter(QObject *Objekt, QEvent *Ereignis) override;
 
  private:
   // frmMain_Aufbau.cpp
-  void Leiste_bauen();
-  void Menue_bauen();
+  void Befehle_bauen();
   void Flaechen_bauen();
   QWidget *Filter_bauen();
-  QAction *Aktion(const char *Schluessel, const QString &Text, const char *Symbol);
-  QToolButton *Knopf(const QString &Schluessel) const;
-  void Symbole_zeichnen();
 
   // frmMain.cpp
   void Auftragsliste_einrichten();
@@ -61,17 +47,7 @@ class frmMain : public QMainWindow {
   void Tabelle_formatieren();
   void Anordnung_speichern();
 
-  // frmMain_Ablauf.cpp
-  /// Runs a command when none is under way; an edit in the grid is taken over first. False: refused.
-  bool Ausfuehren(const std::function<void()> &Tun);
-  void Befehl(const QString &Schluessel);
-  void Erste_Aktivierung();
-
   Auftragspult Pult_;
-  bool Aktiviert_ = false;     ///< the first activation is over
-  bool Beschaeftigt_ = false;  ///< a command runs
-  bool Schliessen_ = false;    ///< the window was closed in the middle of a run of its own
-  QHash<QAction *, QString> Symbole_;
   QMenu *mnuKontext, *mnuStatus_setzen;
   clsTabelle *jgTab;
   QComboBox *cboZeitraum;

@@ -6,8 +6,6 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyledItemDelegate>
-#include <QToolBar>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -20,13 +18,7 @@ namespace marklink {
 
 namespace {
 
-struct Eintrag {
-  const char *Schluessel;
-  const char16_t *Text;
-  const char *Symbol;
-  const char *Unter = nullptr;  ///< the button whose drop-down menu it stands in
-};
-constexpr Eintrag Leiste[] = {
+constexpr Fensterbefehl Leiste[] = {
     {"Bestellungen", u"Bestellungen abrufen", "bestellungen"},
     {"Bestellungen_abrufen_auftragsstatusliste", u"Bestellungen der markierten Auftragsstati abrufen",
      "bestellungen_status", "Bestellungen"},
@@ -49,8 +41,7 @@ constexpr Eintrag Leiste[] = {
     {"Beenden", u"Beenden", "beenden"},
 };
 
-/// An entry without a key is a separating line.
-constexpr Eintrag Kontextmenue[] = {
+constexpr Fensterbefehl Kontextmenue[] = {
     {"mnuKontext_Status_Dialog", u"Bestell&status fortschreiben...", "status_dialog"},
     {"mnuKontext_Status_setzen", u"Status der markierten Aufträge s&etzen", "stati"},
     {nullptr, nullptr, nullptr},
@@ -80,60 +71,15 @@ class Statuszeile : public QStyledItemDelegate {
 
 }  // namespace
 
-QAction *frmMain::Aktion(const char *Schluessel, const QString &Text, const char *Symbol) {
-  auto *aktion = new QAction(Text, this);
-  aktion->setObjectName(QLatin1String(Schluessel));
-  Symbole_.insert(aktion, QLatin1String(Symbol));
-  connect(aktion, &QAction::triggered, this, [this, aktion] { Befehl(aktion->objectName()); });
-  return aktion;
-}
-
-QToolButton *frmMain::Knopf(const QString &Schluessel) const { return findChild<QToolButton *>(Schluessel); }
-
-void frmMain::Leiste_bauen() {
-  auto *leiste = addToolBar(QStringLiteral("Befehle"));
-  leiste->setObjectName(QStringLiteral("tbAllgemein"));
-  leiste->setMovable(false);
-  leiste->setContextMenuPolicy(Qt::PreventContextMenu);
-  leiste->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  leiste->setIconSize({24, 24});
-  for (const Eintrag &eintrag : Leiste) {
-    QAction *aktion = Aktion(eintrag.Schluessel, QString::fromUtf16(eintrag.Text), eintrag.Symbol);
-    if (eintrag.Unter != nullptr) {
-      QToolButton *knopf = Knopf(QLatin1String(eintrag.Unter));
-      if (knopf->menu() == nullptr) {
-        knopf->setMenu(new QMenu(knopf));
-        knopf->setPopupMode(QToolButton::MenuButtonPopup);
-        knopf->installEventFilter(this);
-      }
-      knopf->menu()->addAction(aktion);
-      continue;
-    }
-    // On the button the key's own short word.
-    aktion->setToolTip(aktion->text());
-    aktion->setIconText(QLatin1String(eintrag.Schluessel));
-    leiste->addAction(aktion);
-    auto *knopf = qobject_cast<QToolButton *>(leiste->widgetForAction(aktion));
-    knopf->setObjectName(aktion->objectName());
-    knopf->setFocusPolicy(Qt::TabFocus);
-  }
-}
-
-void frmMain::Menue_bauen() {
+void frmMain::Befehle_bauen() {
+  Leiste_bauen(Leiste);
   mnuKontext->setObjectName(QStringLiteral("mnuKontext"));
-  for (const Eintrag &eintrag : Kontextmenue) {
-    if (eintrag.Schluessel == nullptr)
-      mnuKontext->addSeparator();
-    else
-      mnuKontext->addAction(Aktion(eintrag.Schluessel, QString::fromUtf16(eintrag.Text), eintrag.Symbol));
-  }
+  Menue_bauen(*mnuKontext, Kontextmenue);
   mnuStatus_setzen->setObjectName(QStringLiteral("mnuKontext_Status_setzen"));
   findChild<QAction *>(QStringLiteral("mnuKontext_Status_setzen"))->setMenu(mnuStatus_setzen);
 }
 
-void frmMain::Symbole_zeichnen() {
-  for (auto ort = Symbole_.constBegin(); ort != Symbole_.constEnd(); ++ort)
-    ort.key()->setIcon(Symbolbild(ort.value()));
+void frmMain::Symbole_gezeichnet() {
   if (auto *knopf = findChild<QPushButton *>(QStringLiteral("cmdAktualisieren")))
     knopf->setIcon(Symbolbild(QStringLiteral("aktualisieren")));
 }

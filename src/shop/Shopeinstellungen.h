@@ -33,9 +33,6 @@ std::span<const Einstellungsfeld> Einstellungsfelder();
 QString Seitenname(Einstellungsseite Seite);
 QStringList Synchronisierungsrichtungen();
 
-/// A setting can be read back to this many characters, whatever was written.
-constexpr int Laengste_Einstellung = 255;
-
 /// The values of the fields, by their place in Einstellungsfelder(). Nothing reaches the settings store
 /// before it is saved. A number that its control cannot show stays as it is until the user chooses another.
 class Shopeinstellungen {

@@ -10,6 +10,9 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "host/Datenbank.h"
+#include "ui/clsOberflaeche.h"
+
 namespace marklink {
 namespace {
 
@@ -51,18 +54,6 @@ QWidget *Feld_bauen(size_t Feld, Shopeinstellungen &Werte, QWidget *Eltern) {
       break;
   }
   return Textfeld(Feld, Werte, Eltern);
-}
-
-QHBoxLayout *Tipp_bauen(const QString &Text, QWidget *Eltern) {
-  auto *zeile = new QHBoxLayout;
-  auto *bild = new QLabel(Eltern);
-  const int groesse = bild->fontMetrics().height();
-  bild->setPixmap(bild->style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(groesse));
-  auto *text = new QLabel(Text, Eltern);
-  text->setWordWrap(true);
-  zeile->addWidget(bild, 0, Qt::AlignTop);
-  zeile->addWidget(text, 1);
-  return zeile;
 }
 
 /// A tip stands below its field; that of a check box below its caption.

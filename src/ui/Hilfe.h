@@ -21,6 +21,8 @@ enum : int {
   Liste_Artikelvorlagen_Details,
   Liste_Artikelvorlagen_Optionen,
   Liste_Einheiten,
+  Versandliste = 1170,
+  Versandeinstellungen,
 };
 }
 

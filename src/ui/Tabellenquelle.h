@@ -2,6 +2,7 @@
 // widgets, so that a screen's rules can be the source themselves.
 #pragma once
 
+#include <QHash>
 #include <QStringList>
 #include <QVariant>
 #include <optional>
@@ -28,6 +29,8 @@ struct Tabellenspalte {
   /// What can be picked, one row an entry: the value, then what is shown beside it. A cell may hold a value
   /// that is not among them; it is shown and stays until another is picked.
   std::vector<QStringList> Auswahl{};
+  /// What a cell shows in place of such a value.
+  QHash<QString, QString> Anzeige{};
 };
 
 /// What becomes of a row at the end of its edit.

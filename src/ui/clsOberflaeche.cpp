@@ -3,12 +3,16 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QSet>
+#include <QStyle>
 #include <QSvgRenderer>
 #include <QTimer>
 #include <QTranslator>
@@ -103,6 +107,34 @@ QIcon Symbolbild(const QString &Name) {
 QString Hinweistext(const QString &Text) {
   if (Text.isEmpty()) return {};
   return QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(Text.toHtmlEscaped());
+}
+
+QHBoxLayout *Tipp_bauen(const QString &Text, QWidget *Eltern) {
+  auto *zeile = new QHBoxLayout;
+  auto *bild = new QLabel(Eltern);
+  const int groesse = bild->fontMetrics().height();
+  bild->setPixmap(bild->style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(groesse));
+  auto *text = new QLabel(Text, Eltern);
+  text->setWordWrap(true);
+  zeile->addWidget(bild, 0, Qt::AlignTop);
+  zeile->addWidget(text, 1);
+  return zeile;
+}
+
+void Andere_Fenster_schliessen(const QWidget *Ausser) {
+  QSet<const QWidget *> gefragt{Ausser};  // one may refuse
+  const auto naechstes = [&gefragt]() -> QWidget * {
+    for (QWidget *fenster : QApplication::topLevelWidgets())
+      if (!gefragt.contains(fenster) && fenster->isVisible() &&
+          QByteArrayView(fenster->metaObject()->className()).startsWith("marklink::frm"))
+        return fenster;
+    return nullptr;
+  };
+  // Looked for anew each time: closing one may close others.
+  while (QWidget *fenster = naechstes()) {
+    gefragt.insert(fenster);
+    fenster->close();
+  }
 }
 
 void Text_markieren(QWidget *Fenster) {

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 
+class QHBoxLayout;
 class QWidget;
 
 namespace marklink {
@@ -23,6 +24,13 @@ QIcon Symbolbild(const QString &Name);
 
 /// A text as a tooltip that shows it letter by letter, line breaks included; empty for an empty text.
 QString Hinweistext(const QString &Text);
+
+/// A text that helps, behind the sign for information.
+QHBoxLayout *Tipp_bauen(const QString &Text, QWidget *Eltern);
+
+/// Closes the library's other open windows, not those of the host. One in the middle of a run closes behind
+/// it.
+void Andere_Fenster_schliessen(const QWidget *Ausser);
 
 /// From now on the focus in a text field below `Fenster` selects the field's whole text.
 void Text_markieren(QWidget *Fenster);

@@ -1,4 +1,4 @@
-// The column heads of a grid: two lines, long German words broken at their joint.
+// The column heads of a grid: two or three lines, long German words broken at their joint.
 #pragma once
 
 #include <QHeaderView>
@@ -13,6 +13,10 @@ class clsTabellenkopf : public QHeaderView {
 
  protected:
   void initStyleOptionForIndex(QStyleOptionHeader *Form, int Spalte) const override;
+
+ private:
+  int Zeilen() const;
+  QString Kuerzen(QString Text, int Breite) const;
 };
 
 }  // namespace marklink

@@ -9,6 +9,15 @@
 
 namespace marklink {
 
+namespace {
+
+QString Anzeige_suchen(const Tabellenspalte &Spalte, const QVariant &Wert) {
+  const QString text = Null_als_Text(Wert);
+  return Spalte.Anzeige.value(text, text);
+}
+
+}  // namespace
+
 void clsTabellenmodell::Einrichten(Tabellenquelle &Quelle, std::vector<Tabellenspalte> Spalten,
                                    bool Neue_Zeile) {
   beginResetModel();
@@ -74,7 +83,9 @@ QVariant clsTabellenmodell::data(const QModelIndex &Stelle, int Rolle) const {
   const bool haken = spalte.Wie == Tabellenspalte::Art::Haken;
   switch (Rolle) {
     case Qt::DisplayRole:
-      return haken ? QVariant() : Zelle_formatieren(Wert(Stelle), spalte.Format);
+      if (haken) return {};
+      if (!spalte.Anzeige.isEmpty()) return Anzeige_suchen(spalte, Wert(Stelle));
+      return Zelle_formatieren(Wert(Stelle), spalte.Format);
     case Qt::EditRole:
       return haken ? QVariant(Zelle_wahr(Wert(Stelle))) : Null_als_Text(Wert(Stelle));
     case Qt::CheckStateRole:

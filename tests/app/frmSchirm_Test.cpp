@@ -130,6 +130,36 @@ TEST_P(frmSchirm_Test, Einstellungen_Listen_und_Tabelle_vom_Pult_aus) {
   EXPECT_EQ(Einstellung("hostname"), QStringLiteral("neu.laden.de"));
 }
 
+TEST_P(frmSchirm_Test, Versandliste_schliesst_auch_das_Pult) {
+  Einstellen("Marklink", "project", "Laden");
+  Einstellen("Program", "Finalize", "0");
+  Schritte.Dann([this](QWidget &pult) {
+    Schritte.Dann([this, &pult](QWidget &liste) {
+      EXPECT_EQ(liste.windowTitle(), QStringLiteral("Versand: EASYLOG"));
+      Schritte.Dann([](QWidget &fenster) {
+        QTest::keyClicks(&Kind<QLineEdit>(fenster, u"txtEKPNummer"), QStringLiteral("5012345678"));
+        Klick(fenster, u"cmdOK");
+      });
+      Klick(liste, u"Einstellungen");
+      for (const bool ja : {false, true}) {
+        Schritte.Dann(
+            [ja](QWidget &frage) { QTest::keyClick(&frage, ja ? Qt::Key_Return : Qt::Key_Escape); });
+        Klick(liste, u"Beenden");
+        EXPECT_NE(liste.isVisible(), ja);
+      }
+      EXPECT_TRUE(pult.isVisible()) << "its command is still under way";
+    });
+    Klick(pult, u"Versand");
+    QTRY_VERIFY(!pult.isVisible());
+  });
+  EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 0);
+  Schritte.Dann([](QWidget &fenster) {
+    EXPECT_EQ(Kind<QLineEdit>(fenster, u"txtEKPNummer").text(), QStringLiteral("5012345678"));
+    QTest::keyClick(&fenster, Qt::Key_Escape);
+  });
+  EXPECT_EQ(Starten({"schirm", "versand_einstellungen"}), 0);
+}
+
 TEST_P(frmSchirm_Test, das_Pult_ueberlebt_das_Objekt_des_Hosts) {
   Einstellen("Marklink", "project", "Laden");
   common *objekt = nullptr;

@@ -193,8 +193,8 @@ class Belege_Test : public testing::TestWithParam<std::tuple<int, size_t>> {
 
   void Buecher_pruefen(bool Rechnung, const Belegergebnis &Ergebnis) {
     const bool beleg = !Zeilen(u"kopf"_qs).empty();
-    for (const char *name : {"kopf", "position", "posten", "zahlung", "reservierung", "rueckstand", "bestand",
-                             "artikelbestand"}) {
+    for (const char *name : {"kopf", "position", "posten", "zahlung", "reservierung", "rueckstand", "versand",
+                             "bestand", "artikelbestand"}) {
       const QString wort = QLatin1String(name);
       auto tabelle = test::Tabelle_zum_Wort({{}, wort, {}});
       if (wort == u"kopf") tabelle.Tabelle = tabelle.Tabelle.section(u'|', Rechnung, Rechnung);
@@ -217,6 +217,7 @@ class Belege_Test : public testing::TestWithParam<std::tuple<int, size_t>> {
       }
     }
     EXPECT_EQ(!Ergebnis.Belegnummer.isEmpty(), beleg);
+    EXPECT_EQ(Abfragen("SELECT * FROM LogisticsEASYLOG").RecordCount(), beleg ? 1 : 0);
     EXPECT_EQ(Ergebnis.Hindernis == Beleghindernis::Keines, beleg);
     for (const Belegzeile *z : Zeilen(u"zaehler"_qs)) {
       for (auto it = z->Felder.begin(); it != z->Felder.end(); ++it)

@@ -28,6 +28,7 @@ const QMap<QString, Tabellenwort> Tabellenwoerter{
     {u"zahlung"_qs, {u"PaymentIncome"_qs, u"PaymentNumber"_qs, true}},
     {u"reservierung"_qs, {u"Reservations"_qs, u"ReservationNumber"_qs, true}},
     {u"rueckstand"_qs, {u"BackOrder"_qs, u"LineItemNumber"_qs, true}},
+    {u"versand"_qs, {u"LogisticsEASYLOG"_qs, u"OrderID"_qs, true, false}},
     {u"bestand"_qs, {u"Warehouse"_qs, u"StockingNumber"_qs, true, false}},
     {u"artikelbestand"_qs, {u"Articles"_qs, u"ArticleNumber"_qs, true, false}}};
 const QStringList Ohne_Schluessel{u"vorgabe"_qs, u"zaehler"_qs, u"kopf"_qs};

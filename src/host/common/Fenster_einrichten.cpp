@@ -5,6 +5,7 @@
 
 #include "lists/frmListen.h"
 #include "orders/frmMain.h"
+#include "shipping/frmVersender_EASYLOG.h"
 #include "shop/Austausch.h"
 #include "shop/frmEinstellungen.h"
 #include "shop/frmWinsock.h"
@@ -20,6 +21,7 @@ void Schirme_anmelden() {
   Shopfenster_anmelden();
   Listenfenster_anmelden();
   Auftragsfenster_anmelden();
+  Versandfenster_anmelden();
 }
 
 }  // namespace

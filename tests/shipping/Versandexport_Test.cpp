@@ -1,0 +1,281 @@
+// The export file to the byte, what becomes of the shipments, and that no moment of a killed export loses
+// one.
+#include "shipping/Versandexport.h"
+
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QSet>
+#include <random>
+
+#include "db/Verbindung.h"
+#include "host/Datenbank.h"
+#include "support/Dialoge_Skript.h"
+#include "support/Testmandant.h"
+
+namespace marklink {
+namespace {
+
+const char *const Spalten =
+    "POOL_REFNR;POOL_V_ABS_REFNR;POOL_V_ABS_BEMERKUNG;POOL_V_MAND_REFNR;POOL_V_VERFAHREN;POOL_V_TEILNAHME;"
+    "POOL_V_KSTSTELLE_KUERZEL;POOL_V_PRODUKT_CN;POOL_V_EXTRASLST;POOL_V_NN_WAEHRUNG;POOL_WERT_WAEHRUNG;"
+    "POOL_EMPF_REFNR;POOL_EMPF_NAME1;POOL_EMPF_NAME2;POOL_EMPF_NAME3;POOL_EMPF_PLZ;POOL_EMPF_ORT;"
+    "POOL_EMPF_ORTTEIL;POOL_EMPF_STRASSE;POOL_EMPF_HAUSNR;POOL_EMPF_TEL;POOL_EMPF_FAX;POOL_EMPF_EMAIL;"
+    "POOL_EMPF_APARTNER;POOL_EMPF_BEMERKUNG;POOL_EMPF_USTID;POOL_EMPF_LANDCODE;POOL_EMPF_GEWICHT;"
+    "POOL_ANZAHL_SENDUNGEN;POOL_V_ZOLL_WARENART;POOL_V_ZOLL_WARENLISTE;POOL_V_VORAUSVERF_NAT;"
+    "POOL_V_VORAUSVERF_NAT_UNZUST;POOL_V_VORAUSVERF_INT;POOL_EPACK_VORAUS;POOL_EP_VORAUS;"
+    "POOL_V_VORAUSVERF_INT_TERMIN;POOL_V_VORAUSVERF_INT_TRANSP;POOL_ABWERK_ANZAHL;POOL_ABWERK_NR;"
+    "POOL_ABWERK_DATE;POOL_ABWERK_BBNNR;POOL_SHIPMENT_ID;POOL_VORDATE;POOL_EXWORKS;POOL_CONTENTS;"
+    "POOL_IDENTEXPRESS;POOL_VERWENDUNGSZWECK;POOL_EXTRADATA;POOL_SENDUNGSINHALTDHL;POOL_RECHNUNGSARTDHL;"
+    "POOL_RECHNUNGSNUMMERDHL;POOL_RECHNUNGSDATUMDHL;POOL_UNTERZEICHNERDHL;POOL_ZOLLTARIFDHL;"
+    "POOL_RECHNUNGSBEMDHL;POOL_EXPORTARTDHL;POOL_EXPORTGRUNDDHL;POOL_HANDELSBEDINGUNGENDHL;"
+    "POOL_RECHNUNGSPOSITIONENDHL";
+
+/// In the child of the test with kills: nobody sees it.
+class Stumm : public Dialoge {
+  Antwort Meldung(const QString &, const QStringList &, Symbol, Knoepfe, Antwort) override {
+    return Antwort::OK;
+  }
+  QString Eingabe(const QString &, const QString &, const QString &) override { return {}; }
+  QString Datei_oeffnen(const QString &, const QString &, const QString &) override { return {}; }
+  QString Datei_speichern(const QString &, const QString &, const QString &) override { return {}; }
+  std::optional<quint32> Farbe(quint32) override { return {}; }
+  bool Schirm_zeigen(const QString &) override { return false; }
+};
+
+class Versandexport_Test : public test::Mandant_Test {
+ protected:
+  Versandexport_Test() : Pfad(Mandant.Ordner() + u"easylog.csv"_qs) { Einstellen(";", "0", "0"); }
+
+  void Einstellen(const char *Trennzeichen, const char *Kopf, const char *Anhaengen) {
+    const QString abschnitt = u"easylog"_qs;
+    Option_schreiben(abschnitt, u"file"_qs, Pfad);
+    Option_schreiben(abschnitt, u"delimiter"_qs, QString::fromUtf8(Trennzeichen));
+    Option_schreiben(abschnitt, u"columnheader"_qs, QString::fromLatin1(Kopf));
+    Option_schreiben(abschnitt, u"appendrecords"_qs, QString::fromLatin1(Anhaengen));
+  }
+  void Versand(const char *Bestellung, QVariantList Felder) {
+    Mandant.Zeile(u"LogisticsEASYLOG"_qs,
+                  QVariantList{u"OrderID"_qs, QString::fromLatin1(Bestellung)} + Felder);
+  }
+  QByteArray Datei() const {
+    QFile datei(Pfad);
+    return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray("(keine Datei)");
+  }
+  void Datei_schreiben(const QByteArray &Bytes) const {
+    QFile datei(Pfad);
+    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+    datei.write(Bytes);
+  }
+  Versandexport Exportieren(const char *Meldung = "Die Daten wurden erfolgreich exportiert.") {
+    test::Dialoge_Skript dialoge;
+    dialoge.Erwarten(u"Hinweis"_qs);
+    const Versandexport ergebnis = Versandliste_exportieren();
+    EXPECT_EQ(dialoge.Gezeigt.at(0).Zeilen, QStringList(QString::fromUtf8(Meldung)));
+    return ergebnis;
+  }
+  /// The orders of the shipments that are still to be exported.
+  static QString Offene() {
+    QStringList nummern;
+    for (db::Recordset rs =
+             Abfragen("SELECT OrderID FROM LogisticsEASYLOG WHERE Conveyed = 0 ORDER BY OrderID");
+         !rs.IsEOF(); rs.MoveNext())
+      nummern.append(rs.Text(u"OrderID"_qs));
+    return nummern.join(u' ');
+  }
+
+  QString Pfad;
+};
+MARKLINK_BEIDE_TYPEN(Versandexport_Test);
+
+TEST_P(Versandexport_Test, Every_field_stands_in_its_place) {
+  const QList<QByteArray> namen = QByteArray(Spalten).split(';');
+  QVariantList felder;
+  QByteArray erwartet;
+  for (int i = 0; i < namen.size(); ++i) {
+    const bool gewicht = namen[i] == "POOL_EMPF_GEWICHT";
+    felder << QString::fromLatin1(namen[i]) << (gewicht ? u"28,000"_qs : QString::number(i + 1));
+    erwartet += (i > 0 ? "|" : "") + QByteArray::number(i + 1) + (gewicht ? ",00" : "");
+  }
+  Versand("1", felder);
+  Einstellen("|", "1", "0");
+  const Versandexport ergebnis = Exportieren();
+  EXPECT_EQ(Datei(), QByteArray(Spalten).replace(';', '|') + "\r\n" + erwartet + "\r\n");
+  EXPECT_EQ(ergebnis.Geschrieben, 1);
+  EXPECT_EQ(Offene(), QString());
+  EXPECT_EQ(Exportieren("Es sind leider keine Daten für den Export nach Easylog vorhanden.").Geschrieben, 0);
+}
+
+TEST_P(Versandexport_Test, Header_and_appending) {
+  const QByteArray alt = "alt\r\n", zeile = "R1;E\r\n", kopf = QByteArray(Spalten) + "\r\n";
+  const struct {
+    bool Vorhanden;
+    const char *Kopf, *Anhaengen;
+    QByteArray Erwartet;
+  } faelle[] = {
+      {false, "0", "0", zeile}, {false, "1", "0", kopf + zeile}, {false, "1", "1", kopf + zeile},
+      {true, "1", "0", zeile},  {true, "1", "1", alt + zeile},   {true, "0", "1", alt + zeile},
+  };
+  for (const auto &fall : faelle) {
+    QFile::remove(Pfad);
+    if (fall.Vorhanden) Datei_schreiben(alt);
+    Ausfuehren("DELETE FROM LogisticsEASYLOG");
+    Versand("1", {u"POOL_REFNR"_qs, u"R1"_qs, u"POOL_V_ABS_REFNR"_qs, u"E"_qs});
+    Einstellen(";", fall.Kopf, fall.Anhaengen);
+    Exportieren();
+    // What is empty behind the two fields still has its delimiters.
+    EXPECT_EQ(Datei(), QByteArray(fall.Erwartet).replace("R1;E", "R1;E" + QByteArray(58, ';')))
+        << fall.Vorhanden << fall.Kopf << fall.Anhaengen;
+  }
+}
+
+TEST_P(Versandexport_Test, A_line_as_it_is_written) {
+  const QByteArray rest(32, ';');
+  const struct {
+    const char *Trennzeichen;
+    QVariantList Felder;
+    QByteArray Erwartet;
+  } faelle[] = {
+      // leading empty fields leave no delimiters behind
+      {";", {u"POOL_V_VERFAHREN"_qs, u"01"_qs}, "01" + QByteArray(55, ';') + "\r\n"},
+      {";", {}, "\r\n"},
+      {"<->", {u"POOL_EXPORTARTDHL"_qs, u"a"_qs, u"POOL_EXPORTGRUNDDHL"_qs, u"b"_qs}, "a<->b<-><->\r\n"},
+      {"", {u"POOL_REFNR"_qs, u"a"_qs, u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"b"_qs}, "ab\r\n"},
+      // no quotes around anything
+      {";",
+       {u"POOL_HANDELSBEDINGUNGENDHL"_qs, u"x;y\r\n\"z\""_qs, u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"'"_qs},
+       "x;y\r\n\"z\";'\r\n"},
+      {";",
+       {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"Größe 5 € 漢"_qs},
+       "Gr\xF6\xDF"
+       "e 5 \x80 ?\r\n"},
+      {";", {u"POOL_EMPF_GEWICHT"_qs, u"1,500"_qs}, "1,50" + rest + "\r\n"},
+      {";", {u"POOL_EMPF_GEWICHT"_qs, u"1.234,565"_qs}, "1.234,57" + rest + "\r\n"},
+      {";", {u"POOL_EMPF_GEWICHT"_qs, u"schwer"_qs}, "schwer" + rest + "\r\n"},
+  };
+  for (const auto &fall : faelle) {
+    Ausfuehren("DELETE FROM LogisticsEASYLOG");
+    Versand("1", fall.Felder);
+    Einstellen(fall.Trennzeichen, "0", "0");
+    Exportieren();
+    EXPECT_EQ(Datei(), fall.Erwartet);
+  }
+}
+
+TEST_P(Versandexport_Test, A_path_that_cannot_be_opened_marks_all_and_tells_success) {
+  const QString pfade[] = {QString(), Mandant.Ordner(), Mandant.Ordner() + u"fehlt/easylog.csv"_qs};
+  for (const QString &pfad : pfade) {
+    Pfad = pfad;
+    Ausfuehren("DELETE FROM LogisticsEASYLOG");
+    Versand("1", {});
+    Versand("2", {});
+    Einstellen(";", "1", "0");
+    const Versandexport ergebnis = Exportieren();
+    EXPECT_EQ(ergebnis.Versandauftraege, 2);
+    EXPECT_EQ(ergebnis.Geschrieben, 0);
+    EXPECT_EQ(Offene(), QString());
+  }
+}
+
+TEST_P(Versandexport_Test, What_finds_no_room_is_left_open_and_leaves_no_half_line) {
+  constexpr qsizetype ANFANG = 64 * 1024 * 1024;  // beyond anything that the database writes
+  Datei_schreiben({});
+  ASSERT_TRUE(QFile::resize(Pfad, ANFANG));
+  for (const char *nummer : {"1", "2", "3"})
+    Versand(nummer, {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"12345678"_qs});
+  Einstellen(";", "0", "1");
+  rlimit vorher{};
+  getrlimit(RLIMIT_FSIZE, &vorher);
+  const auto handler = signal(SIGXFSZ, SIG_IGN);
+  rlimit eng = vorher;
+  eng.rlim_cur = rlim_t(ANFANG + 15);
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &eng), 0);
+  const Versandexport ergebnis = Exportieren();
+  setrlimit(RLIMIT_FSIZE, &vorher);
+  signal(SIGXFSZ, handler);
+  EXPECT_EQ(ergebnis.Geschrieben, 1);
+  EXPECT_EQ(Datei().mid(ANFANG), QByteArray("12345678\r\n"));
+  EXPECT_EQ(Offene(), u"2 3"_qs);
+  Exportieren();
+  EXPECT_EQ(Datei().mid(ANFANG), QByteArray("12345678\r\n12345678\r\n12345678\r\n"));
+}
+
+TEST_P(Versandexport_Test, A_line_that_was_cut_short_is_taken_out_when_appending) {
+  const struct {
+    const char *Vorher, *Erwartet;
+  } faelle[] = {
+      {"alt\r\nR2x12", "alt\r\nR1\r\nR2x123\r\n"},
+      {"R1\r", "R1\r\nR2x123\r\n"},
+      {"fremd", "fremdR1\r\nR2x123\r\n"},  // not ours: stays as it is
+  };
+  for (const auto &fall : faelle) {
+    Datei_schreiben(fall.Vorher);
+    Ausfuehren("DELETE FROM LogisticsEASYLOG");
+    Versand("1", {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"R1"_qs});
+    Versand("2", {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"R2x123"_qs});
+    Einstellen(";", "1", "1");
+    Exportieren();
+    EXPECT_EQ(Datei(), fall.Erwartet);
+  }
+}
+
+TEST_P(Versandexport_Test, A_killed_export_loses_no_shipment) {
+  constexpr int ANZAHL = 400;
+  db::Recordset rs = Abfragen("SELECT * FROM LogisticsEASYLOG");
+  for (int i = 0; i < ANZAHL; ++i) {
+    rs.AddNew();
+    rs.SetValue(u"OrderID"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
+    rs.SetValue(u"POOL_REFNR"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
+    rs.SetValue(u"POOL_RECHNUNGSPOSITIONENDHL"_qs, QString(300, u'x'));
+    rs.Update();
+  }
+  ASSERT_TRUE(rs.UpdateBatch());
+  Einstellen("", "0", "1");
+
+  const auto ausfuehren = [this](int Mikrosekunden) {
+    db::Verbindungen_schliessen();  // a connection must not live on in two programs
+    const pid_t kind = fork();
+    if (kind == 0) {
+      Stumm stumm;
+      Dialoge_setzen(&stumm);
+      Versandliste_exportieren();
+      _exit(0);
+    }
+    if (Mikrosekunden >= 0) {
+      usleep(useconds_t(Mikrosekunden));
+      kill(kind, SIGKILL);
+    }
+    int ende = 0;
+    waitpid(kind, &ende, 0);
+    return WIFSIGNALED(ende);
+  };
+  std::mt19937 wuerfel(4711);
+  int getoetet = 0, dauer = 20000;
+  for (int versuch = 0; versuch < (qEnvironmentVariableIsSet("MARKLINK_ALLE") ? 200 : 8); ++versuch) {
+    QFile::remove(Pfad);
+    ASSERT_TRUE(Ausfuehren("UPDATE LogisticsEASYLOG SET Conveyed = 0"));
+    if (ausfuehren(std::uniform_int_distribution<int>(1000, dauer)(wuerfel)))
+      ++getoetet;
+    else
+      dauer = dauer * 3 / 4;
+    const QStringList offen = Offene().split(u' ', Qt::SkipEmptyParts);
+    const QByteArray bytes = QFile::exists(Pfad) ? Datei() : QByteArray();
+    const int zeilen = int(bytes.size() / 306), markiert = ANZAHL - int(offen.size());
+    EXPECT_TRUE(zeilen == markiert || zeilen == markiert + 1)
+        << zeilen << " lines, " << markiert << " marked";
+    ausfuehren(-1);
+    QSet<QByteArray> nummern;
+    for (const QByteArray &zeile : Datei().split('\n')) nummern.insert(zeile.left(4));
+    EXPECT_EQ(nummern.size(), ANZAHL + 1);  // and the empty rest behind the last line
+    EXPECT_EQ(Datei().size(), 306 * (ANZAHL + zeilen - markiert)) << "half a line";
+    EXPECT_EQ(Offene(), QString());
+  }
+  EXPECT_GT(getoetet, 1);
+}
+
+}  // namespace
+}  // namespace marklink
