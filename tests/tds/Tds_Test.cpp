@@ -1,0 +1,302 @@
+// The stand-in for SQL Server as FreeTDS's ODBC driver sees it.
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include "Odbc.h"
+#include "support/Datenbank_Test.h"
+#include "support/SqlServer_Attrappe.h"
+
+namespace marklink::test {
+namespace {
+
+class Tds_Test : public testing::Test {
+ protected:
+  Tds_Test() : server(ordner.path() + QStringLiteral("/demo.mdb")) {}
+  void anlegen(Odbc &Odbc_) {
+    ASSERT_TRUE(Odbc_.Verbunden()) << Odbc_.Fehler().toStdString();
+    ASSERT_TRUE(Odbc_.lauf(QStringLiteral(
+        "CREATE TABLE [dbo].[Waren] ([Nr] int IDENTITY(1,1) NOT NULL, [Name] nvarchar(30) NULL, [Preis] "
+        "float NULL, "
+        "[Wann] datetime NULL, [Aktiv] bit NOT NULL DEFAULT 0, [Kurz] smallint, [Lang] bigint, "
+        "[Text] nvarchar(max), [Bild] varbinary(max), CONSTRAINT [PK_Waren] PRIMARY KEY ([Nr]))")))
+        << Odbc_.Fehler().toStdString();
+    ASSERT_TRUE(Odbc_.lauf(QStringLiteral("CREATE UNIQUE INDEX [Waren_1] ON [Waren] ([Name])")));
+  }
+
+  QTemporaryDir ordner;
+  SqlServer_Attrappe server;
+};
+
+template <typename T>
+QByteArray Roh(const T &Wert) {
+  return {reinterpret_cast<const char *>(&Wert), sizeof Wert};
+}
+
+Parameter Gleit(double z) { return {SQL_C_DOUBLE, SQL_DOUBLE, Roh(z)}; }
+Parameter Ganz(qint32 z) { return {SQL_C_SLONG, SQL_INTEGER, Roh(z)}; }
+Parameter Zeit() {
+  return {SQL_C_TYPE_TIMESTAMP,
+          SQL_TYPE_TIMESTAMP,
+          Roh(SQL_TIMESTAMP_STRUCT{2024, 3, 5, 12, 30, 59, 0}),
+          false,
+          23,
+          3};
+}
+
+TEST_F(Tds_Test, Anmeldung) {
+  EXPECT_TRUE(Odbc(server.Port()).Verbunden());
+  const Odbc falsch(server.Port(), QStringLiteral("falsch"));
+  EXPECT_FALSE(falsch.Verbunden());
+  EXPECT_TRUE(falsch.Fehler().contains(QStringLiteral("Login failed for user 'sa'.")))
+      << falsch.Fehler().toStdString();
+  server.Stellen("ablehnen", 2);
+  EXPECT_FALSE(Odbc(server.Port()).Verbunden());
+  server.Stellen("ablehnen", 3);
+  QElapsedTimer uhr;
+  uhr.start();
+  EXPECT_FALSE(Odbc(server.Port(), QStringLiteral("geheim"), 1).Verbunden());
+  EXPECT_LT(uhr.elapsed(), 5000);
+  server.Stellen("ablehnen", 0);
+  EXPECT_TRUE(Odbc(server.Port()).Verbunden());
+  EXPECT_EQ(server.Zahl("anmeldungen"), 2);
+}
+
+TEST_F(Tds_Test, Werte_kommen_an_und_zurueck) {
+  Odbc o(server.Port());
+  anlegen(o);
+  const QString zeichen = QString::fromUtf8("Größe € Łódź \xF0\x9F\x98\x80 'x'");
+  const QString lang = QString(9000, u'ä') + u'€';
+  const QByteArray bild(3 << 20, '\x9C');
+  ASSERT_TRUE(
+      o.lauf(QStringLiteral("INSERT INTO [Waren] ([Name],[Preis],[Wann],[Aktiv],[Kurz],[Lang],[Text],[Bild]) "
+                            "VALUES (?,?,?,?,?,?,?,?)"),
+             {Textwert(zeichen),
+              Gleit(-1234.5678),
+              Zeit(),
+              {SQL_C_BIT, SQL_BIT, QByteArray(1, '\1')},
+              {SQL_C_SSHORT, SQL_SMALLINT, Roh(qint16(-7))},
+              {SQL_C_SBIGINT, SQL_BIGINT, Roh(qint64(1) << 40)},
+              {SQL_C_WCHAR, SQL_WLONGVARCHAR, Textwert(lang).Bytes},
+              {SQL_C_BINARY, SQL_LONGVARBINARY, bild}}))
+      << o.Fehler().toStdString();
+  EXPECT_EQ(o.lesen(QStringLiteral("SELECT [Name],[Preis],[Wann],[Aktiv],[Kurz],[Lang],[Bild] FROM [Waren]")),
+            zeichen + QStringLiteral("|-1234.5678|2024-03-05 12:30:59.000|1|-7|1099511627776|3145728 bytes"));
+  EXPECT_EQ(o.lesen(QStringLiteral("SELECT [Text] FROM Waren WHERE Nr = 1")), lang);
+  Parameter ohne = Textwert({});
+  ohne.Null = true;
+  Parameter ohne_Zahl = Gleit(0), ohne_Zeit = Zeit();
+  ohne_Zahl.Null = ohne_Zeit.Null = true;
+  ASSERT_TRUE(o.lauf(QStringLiteral("INSERT INTO Waren (Name,Text,Preis,Wann) VALUES (?,?,?,?)"),
+                     {ohne, Textwert({}), ohne_Zahl, ohne_Zeit}));
+  EXPECT_EQ(o.lesen(QStringLiteral("SELECT Name, Text, Preis, Wann, Aktiv, Bild FROM Waren WHERE Nr = 2")),
+            QStringLiteral("NULL||NULL|NULL|0|NULL"));
+}
+
+TEST_F(Tds_Test, Vergleiche_sehen_nicht_auf_Gross_und_Klein) {
+  Odbc o(server.Port());
+  anlegen(o);
+  ASSERT_TRUE(o.lauf(QStringLiteral("INSERT INTO Waren (Name) VALUES ('Möhre')")));
+  EXPECT_EQ(o.lesen(QStringLiteral("SELECT Name FROM Waren WHERE Name = N'MÖHRE '")),
+            QStringLiteral("Möhre"));
+  EXPECT_EQ(
+      o.lesen(QStringLiteral("SELECT Name FROM Waren WHERE Name = ?"), {Textwert(QStringLiteral("möhre"))}),
+      QStringLiteral("Möhre"));
+  EXPECT_EQ(o.lesen(QStringLiteral("SELECT COUNT(*) FROM Waren WHERE Name COLLATE Latin1_General_BIN2 = ?"),
+                    {Textwert(QStringLiteral("möhre"))}),
+            QStringLiteral("0"));
+}
+
+TEST_F(Tds_Test, Anweisungen_des_Servers) {
+  Odbc o(server.Port());
+  anlegen(o);
+  const QString neu =
+      QStringLiteral("INSERT INTO Waren (Name, Text) VALUES (?, 'gleich'); SELECT SCOPE_IDENTITY()");
+  for (const char *nummer : {"1", "2", "3"}) {
+    EXPECT_EQ(o.lesen(neu, {Textwert(QString::fromLatin1(nummer))}), QString::fromLatin1(nummer));
+  }
+  const struct {
+    const char *Sql, *Zeilen;
+  } faelle[] = {
+      {"SELECT TOP (2) Name FROM dbo.Waren WITH (NOLOCK) ORDER BY Nr DESC", "3\n2"},
+      {"UPDATE TOP (1) [demo].[dbo].[Waren] SET Kurz = 7 WHERE Text = 'GLEICH'; SELECT SUM(Kurz) FROM Waren",
+       "7"},
+      {"DELETE TOP (1) FROM Waren WHERE EXISTS (SELECT Kurz INTERSECT SELECT NULL); SELECT COUNT(*) FROM "
+       "Waren",
+       "2"},
+      {"SET NOCOUNT ON BEGIN TRAN DELETE FROM Waren SELECT @@TRANCOUNT ROLLBACK", "1"},
+      {"SELECT ISNULL(Kurz, 0), LEN(Text + 'x'), UPPER(N'ä') /* ; */ FROM Waren WHERE Nr = 1 -- ;", "7|7|Ä"},
+      {"SELECT CONVERT(datetime, '2024-03-05 00:00:00', 120), 0x0aFF", "2024-03-05 00:00:00|0aff"}};
+  for (const auto &fall : faelle) {
+    QString zeilen;
+    ASSERT_TRUE(o.lauf(QString::fromUtf8(fall.Sql))) << fall.Sql << o.Fehler().toStdString();
+    SQLSMALLINT spalten = 0;
+    while (SQL_SUCCEEDED(SQLNumResultCols(o.Stmt(), &spalten)) && spalten == 0 &&
+           SQL_SUCCEEDED(SQLMoreResults(o.Stmt()))) {
+    }
+    EXPECT_EQ(o.Zeilen(), QString::fromUtf8(fall.Zeilen)) << fall.Sql;
+  }
+}
+
+TEST_F(Tds_Test, Transaktionen) {
+  Odbc a(server.Port()), b(server.Port());
+  anlegen(a);
+  const QString einfuegen = QStringLiteral("INSERT INTO Waren (Name) VALUES (?)");
+  const QString zaehlen = QStringLiteral("SELECT COUNT(*) FROM Waren");
+  ASSERT_TRUE(a.Selbst_abschliessen(false));
+  ASSERT_TRUE(a.lauf(einfuegen, {Textwert(QStringLiteral("eins"))}));
+  EXPECT_EQ(b.lesen(zaehlen), QStringLiteral("0"));
+  ASSERT_TRUE(a.Abschliessen(true));
+  EXPECT_EQ(b.lesen(zaehlen), QStringLiteral("1"));
+  ASSERT_TRUE(a.lauf(einfuegen, {Textwert(QStringLiteral("zwei"))}));
+  EXPECT_EQ(a.lesen(zaehlen), QStringLiteral("2"));
+  ASSERT_TRUE(a.Abschliessen(false));
+  EXPECT_EQ(a.lesen(zaehlen), QStringLiteral("1"));
+  ASSERT_TRUE(a.lauf(einfuegen, {Textwert(QStringLiteral("drei"))}));
+  EXPECT_FALSE(a.lauf(einfuegen, {Textwert(QStringLiteral("EINS"))}));  // refused, and the rest stays
+  ASSERT_TRUE(a.Abschliessen(true));
+  EXPECT_EQ(b.lesen(zaehlen), QStringLiteral("2"));
+  ASSERT_TRUE(a.lauf(einfuegen, {Textwert(QStringLiteral("vier"))}));
+  server.Alle_trennen();
+  EXPECT_FALSE(a.Abschliessen(true));
+  EXPECT_EQ(Odbc(server.Port()).lesen(zaehlen), QStringLiteral("2"));
+}
+
+TEST_F(Tds_Test, Fehler_nennen_Nummer_und_Wortlaut) {
+  Odbc o(server.Port());
+  anlegen(o);
+  ASSERT_TRUE(o.lauf(QStringLiteral("INSERT INTO Waren (Name) VALUES ('da')")));
+  const struct {
+    const char *Sql;
+    QList<Parameter> Werte;
+    const char *Fehler;
+  } faelle[] = {
+      {"SELECT * FROM Fehlt", {}, "42S02 208 [FreeTDS][SQL Server]Invalid object name 'Fehlt'."},
+      {"SELECT Fehlt FROM Waren", {}, "42S22 207 [FreeTDS][SQL Server]Invalid column name 'Fehlt'."},
+      {"SELECT FROM WHERE", {}, "42000 102 [FreeTDS][SQL Server]Incorrect syntax near 'FROM'."},
+      {"SELECT Name AS Key FROM Waren", {}, "42000 102 [FreeTDS][SQL Server]Incorrect syntax near 'Key'."},
+      {"SELECT Name FROM Waren WHERE IsNull(Name)",
+       {},
+       "42000 102 [FreeTDS][SQL Server]Incorrect syntax near 'IsNull'."},
+      {"UPDATE Fehlt SET Name = ?", {Ganz(1)}, "42S02 208 [FreeTDS][SQL Server]Invalid object name 'Fehlt'."},
+      {"INSERT INTO Waren (Name) VALUES (?)",
+       {Textwert(QString(31, u'x'))},
+       "22001 8152 [FreeTDS][SQL Server]String or binary data would be truncated."},
+      {"INSERT INTO Waren (Name) VALUES (?)",
+       {Textwert(QStringLiteral("DA"))},
+       "23000 2601 [FreeTDS][SQL Server]Cannot insert duplicate key row in object 'dbo.Waren' with unique "
+       "index."},
+      {"INSERT INTO Waren (Kurz) VALUES (?)",
+       {Ganz(40000)},
+       "HY019 8115 [FreeTDS][SQL Server]Arithmetic overflow error converting expression to data type int."},
+      {"UPDATE Waren SET Wann = 'morgen'",
+       {},
+       "22007 241 [FreeTDS][SQL Server]Conversion failed when converting date and/or time from character "
+       "string."}};
+  for (const auto &fall : faelle) {
+    EXPECT_FALSE(o.lauf(QString::fromUtf8(fall.Sql), fall.Werte)) << fall.Sql;
+    EXPECT_EQ(o.Fehler(), QString::fromUtf8(fall.Fehler));
+  }
+  server.Stellen("fehlernummer", 1205);
+  server.Stellen("fehler", 2);
+  EXPECT_EQ(o.lesen(QStringLiteral("SELECT COUNT(*) FROM Waren")), QStringLiteral("1"));
+  EXPECT_TRUE(o.lesen(QStringLiteral("SELECT Nr FROM Waren")).contains(QStringLiteral(" 1205 ")));
+  EXPECT_EQ(o.lesen(QStringLiteral("SELECT Nr FROM Waren")), QStringLiteral("1"));
+}
+
+TEST_F(Tds_Test, Katalog) {
+  Odbc o(server.Port());
+  anlegen(o);
+  ASSERT_TRUE(
+      o.lauf(QStringLiteral("CREATE TABLE Preise (Nr int NOT NULL, Land nvarchar(50) NOT NULL, Preis float, "
+                            "PRIMARY KEY (Nr, Land))")));
+  SQLFreeStmt(o.Stmt(), SQL_CLOSE);
+  auto *preise = reinterpret_cast<SQLCHAR *>(const_cast<char *>("Preise"));
+  auto *waren = reinterpret_cast<SQLCHAR *>(const_cast<char *>("Waren"));
+  const auto gut = [&](SQLRETURN rc) { return o.pruefen(rc, SQL_HANDLE_STMT, o.Stmt()); };
+  ASSERT_TRUE(gut(SQLPrimaryKeys(o.Stmt(), nullptr, 0, nullptr, 0, preise, SQL_NTS)))
+      << o.Fehler().toStdString();
+  EXPECT_EQ(o.Zeilen({3, 4, 5}), QStringLiteral("Preise|Nr|1\nPreise|Land|2"));
+  SQLFreeStmt(o.Stmt(), SQL_CLOSE);
+  ASSERT_TRUE(gut(SQLColumns(o.Stmt(), nullptr, 0, nullptr, 0, waren, SQL_NTS, nullptr, 0)))
+      << o.Fehler().toStdString();
+  EXPECT_EQ(o.Zeilen({4, 5, 6, 7, 11}),
+            QStringLiteral(
+                "Nr|4|int identity|10|0\nName|-9|nvarchar|30|1\nPreis|6|float|15|1\nWann|93|datetime|23|1\n"
+                "Aktiv|-7|bit|1|0\nKurz|5|smallint|5|1\nLang|-5|bigint|19|1\nText|-10|ntext|1073741823|1\n"
+                "Bild|-4|image|2147483647|1"));
+  SQLFreeStmt(o.Stmt(), SQL_CLOSE);
+  ASSERT_TRUE(gut(SQLSpecialColumns(o.Stmt(), SQL_BEST_ROWID, nullptr, 0, nullptr, 0, preise, SQL_NTS,
+                                    SQL_SCOPE_CURROW, SQL_NULLABLE)));
+  EXPECT_EQ(o.Zeilen({2}), QStringLiteral("Nr\nLand"));
+  SQLFreeStmt(o.Stmt(), SQL_CLOSE);
+  ASSERT_TRUE(gut(SQLStatistics(o.Stmt(), nullptr, 0, nullptr, 0, waren, SQL_NTS, SQL_INDEX_ALL, SQL_QUICK)));
+  EXPECT_EQ(o.Zeilen({4, 6, 9}), QStringLiteral("0|Waren_1|Name"));
+  SQLFreeStmt(o.Stmt(), SQL_CLOSE);
+  ASSERT_TRUE(gut(SQLTables(o.Stmt(), nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0)));
+  EXPECT_EQ(o.Zeilen({3, 4}), QStringLiteral("Preise|TABLE\nWaren|TABLE"));
+}
+
+/// Whatever the server breaks off: the client notices at once and the next connection works.
+TEST_F(Tds_Test, Abgebrochene_Verbindungen) {
+  {
+    Odbc o(server.Port());
+    anlegen(o);
+    for (int i = 0; i < 200; ++i) {
+      ASSERT_TRUE(
+          o.lauf(QStringLiteral("INSERT INTO Waren (Text) VALUES (?)"), {Textwert(QString(100, u'x'))}));
+    }
+  }
+  for (const char *wie : {"trennen", "trennen-danach", "trennen-mitten"}) {
+    Odbc o(server.Port());
+    EXPECT_EQ(o.lesen(QStringLiteral("SELECT COUNT(*) FROM Waren")), QStringLiteral("200"));
+    server.Stellen(wie, 1);
+    QElapsedTimer uhr;
+    uhr.start();
+    EXPECT_TRUE(o.lesen(QStringLiteral("SELECT * FROM Waren")).contains(QStringLiteral(" 20017 "))) << wie;
+    EXPECT_TRUE(o.Tot()) << wie;
+    EXPECT_LT(uhr.elapsed(), 3000) << wie;
+  }
+}
+
+TEST_F(Tds_Test, Wer_nicht_wartet_kann_weiterarbeiten) {
+  Odbc o(server.Port());
+  SQLSetStmtAttr(o.Stmt(), SQL_ATTR_QUERY_TIMEOUT, reinterpret_cast<SQLPOINTER>(1), 0);
+  server.Stellen("langsam", 60000);
+  EXPECT_TRUE(o.lesen(QStringLiteral("SELECT 1")).startsWith(QStringLiteral("Fehler HYT00")))
+      << o.Fehler().toStdString();
+  server.Stellen("langsam", 0);
+  EXPECT_EQ(o.lesen(QStringLiteral("SELECT 1")), QStringLiteral("1"));
+}
+
+/// A row that the server refuses does not take the others with it.
+TEST_F(Tds_Test, Viele_Zeilen_in_einem_Umlauf) {
+  Odbc o(server.Port());
+  anlegen(o);
+  constexpr std::size_t Anzahl = 100, Breite = 40, Falsche = 50;
+  std::vector<char16_t> namen(Anzahl * Breite);
+  std::vector<SQLLEN> laengen(Anzahl);
+  std::vector<SQLUSMALLINT> stand(Anzahl);
+  for (std::size_t i = 0; i < Anzahl; ++i) {
+    const QString name = i == Falsche ? QString(31, u'x') : QStringLiteral("Ware %1").arg(i);
+    std::copy_n(reinterpret_cast<const char16_t *>(name.utf16()), name.size(), &namen[i * Breite]);
+    laengen[i] = name.size() * 2;
+  }
+  const QString satz = QStringLiteral("INSERT INTO Waren (Name) VALUES (?)");
+  SQLSetStmtAttr(o.Stmt(), SQL_ATTR_PARAMSET_SIZE, reinterpret_cast<SQLPOINTER>(Anzahl), 0);
+  SQLSetStmtAttr(o.Stmt(), SQL_ATTR_PARAM_STATUS_PTR, stand.data(), 0);
+  SQLFreeStmt(o.Stmt(), SQL_CLOSE);
+  server.Stellen("anfragen", 0);
+  SQLPrepareW(o.Stmt(), const_cast<SQLWCHAR *>(reinterpret_cast<const SQLWCHAR *>(satz.utf16())), SQL_NTS);
+  SQLBindParameter(o.Stmt(), 1, SQL_PARAM_INPUT, SQL_C_WCHAR, SQL_WVARCHAR, Breite, 0, namen.data(),
+                   Breite * 2, laengen.data());
+  EXPECT_EQ(SQLExecute(o.Stmt()), SQL_SUCCESS_WITH_INFO);
+  EXPECT_EQ(server.Zahl("anfragen"), 2);
+  for (std::size_t i = 0; i < Anzahl; ++i)
+    EXPECT_EQ(stand[i], i == Falsche ? SQL_PARAM_ERROR : SQL_PARAM_SUCCESS);
+  EXPECT_EQ(Odbc(server.Port()).lesen(QStringLiteral("SELECT COUNT(*) FROM Waren")), QStringLiteral("99"));
+}
+
+}  // namespace
+}  // namespace marklink::test
