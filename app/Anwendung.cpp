@@ -23,10 +23,17 @@ void Startmeldung(QtMsgType Art, const QMessageLogContext &, const QString &Text
 
 }  // namespace
 
-std::unique_ptr<QCoreApplication> Anwendung_erzeugen(int &argc, char **argv, bool Mit_Fenstern) {
-  if (!Mit_Fenstern) return std::make_unique<QCoreApplication>(argc, argv);
+std::unique_ptr<QCoreApplication> Anwendung_erzeugen(int &argc, char **argv, Anwendungsart Art) {
+  if (Art == Anwendungsart::Ohne) return std::make_unique<QCoreApplication>(argc, argv);
+  // A list for a file is laid out on any machine, whether it has a display or not.
+  if (Art == Anwendungsart::Schriften && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
   const QtMessageHandler vorher = qInstallMessageHandler(&Startmeldung);
-  auto programm = std::make_unique<QApplication>(argc, argv);
+  std::unique_ptr<QCoreApplication> programm;
+  if (Art == Anwendungsart::Schriften)
+    programm = std::make_unique<QGuiApplication>(argc, argv);
+  else
+    programm = std::make_unique<QApplication>(argc, argv);
   qInstallMessageHandler(vorher);
   return programm;
 }

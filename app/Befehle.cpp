@@ -172,6 +172,34 @@ std::vector<Befehl> Versandbefehle() {
   };
 }
 
+std::vector<Befehl> Druckbefehle() {
+  const QString gruppe = QStringLiteral("drucken");
+  const std::vector<Argumentbeschreibung> argumente{{QStringLiteral("DATEI")},
+                                                    {QStringLiteral("NR"), {}, true}};
+  const QString arten = QStringLiteral(
+      "; die Endung der Datei (.pdf, .xls, .rtf, .htm, .txt) bestimmt ihre Art, jede andere ergibt ein PDF");
+  return {
+      {gruppe,
+       QStringLiteral("bestellliste"),
+       argumente,
+       {Alle},
+       QStringLiteral(
+           "schreibt die Bestellliste der genannten oder aller Bestellungen in eine Datei, nach Tagen "
+           "gruppiert") +
+           arten,
+       &Befehl_Drucken_bestellliste},
+      {gruppe,
+       QStringLiteral("transaktionsliste"),
+       argumente,
+       {Alle},
+       QStringLiteral(
+           "schreibt die Transaktionsliste der genannten oder aller Bestellungen in eine Datei, nach "
+           "Zahlungsarten gruppiert") +
+           arten,
+       &Befehl_Drucken_transaktionsliste},
+  };
+}
+
 Befehl Lagerbefehl() {
   return {
       QStringLiteral("lager"),
@@ -222,6 +250,7 @@ std::vector<Befehl> Alle_Befehle() {
   alle.push_back(Kundenbefehl());
   for (const Befehl &befehl : Belegbefehle()) alle.push_back(befehl);
   for (const Befehl &befehl : Versandbefehle()) alle.push_back(befehl);
+  for (const Befehl &befehl : Druckbefehle()) alle.push_back(befehl);
   alle.push_back(Lagerbefehl());
   alle.push_back(Nummernbefehl());
   alle.push_back({QStringLiteral("preis"),
@@ -255,6 +284,7 @@ const std::vector<Befehlsgruppe> &Befehlsgruppen() {
       {QStringLiteral("kunden"), QStringLiteral("Kunden der Bestellungen anlegen")},
       {QStringLiteral("belege"), QStringLiteral("Aufträge und Rechnungen aus Bestellungen erstellen")},
       {QStringLiteral("versand"), QStringLiteral("Versandaufträge für die Versandsoftware")},
+      {QStringLiteral("drucken"), QStringLiteral("Listen von Bestellungen in Dateien schreiben")},
       {QStringLiteral("lager"), QStringLiteral("Bestand prüfen")},
       {QStringLiteral("nummer"), QStringLiteral("die nächste Nummer eines Nummernkreises zeigen")},
       {QStringLiteral("posten"), QStringLiteral("den offenen Posten einer Rechnung zeigen")},

@@ -49,6 +49,8 @@ const Befehl *Befehl_suchen(const QString &Gruppe, const QString &Unterbefehl);
 
 int Befehl_Mandant_anlegen(const Aufruf &A);
 int Befehl_Mandant_demo(const Aufruf &A);
+int Befehl_Drucken_bestellliste(const Aufruf &A);
+int Befehl_Drucken_transaktionsliste(const Aufruf &A);
 int Befehl_Einstellung_lesen(const Aufruf &A);
 int Befehl_Einstellung_schreiben(const Aufruf &A);
 int Befehl_Bestellungen_abrufen(const Aufruf &A);

@@ -10,5 +10,7 @@ struct Aufruf;
 QStringList Schirmnamen();
 /// Whether the command opens a screen, and so needs an application with windows.
 bool Braucht_Fenster(const Aufruf &A);
+/// Whether the command lays out pages, and so needs an application with fonts.
+bool Braucht_Schriften(const Aufruf &A);
 
 }  // namespace marklink

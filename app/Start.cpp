@@ -7,6 +7,7 @@
 #include "Launcher_Komponenten.h"
 #include "Schirmnamen.h"
 #include "Terminal_Dialoge.h"
+#include "Terminal_Drucker.h"
 #include "Terminal_Fortschritt.h"
 #include "Terminal_Ziehung.h"
 #include "Unterbrechung.h"
@@ -41,12 +42,14 @@ class Terminal {
   explicit Terminal(const Aufruf &A) : Dialoge_(A.Werte("antwort")) {
     Dialoge_setzen(&Dialoge_);
     Fortschritt_setzen(&Fortschritt_);
+    Drucker_setzen(&Drucker_);
     Verbindungsfenster_setzen(&Austausch_im_Terminal);
     Unterbrechung_einrichten();
   }
   ~Terminal() {
     Dialoge_setzen(nullptr);
     Fortschritt_setzen(nullptr);
+    Drucker_setzen(nullptr);
     Verbindungsfenster_setzen(nullptr);
   }
   Terminal(const Terminal &) = delete;
@@ -57,6 +60,7 @@ class Terminal {
  private:
   Terminal_Dialoge Dialoge_;
   Terminal_Fortschritt Fortschritt_;
+  Terminal_Drucker Drucker_;
 };
 
 int Befehl_ausfuehren(const Aufruf &A) {

@@ -13,9 +13,12 @@ int main(int argc, char *argv[]) {
   QStringList argumente;
   for (int i = 1; i < argc; ++i) argumente << QString::fromUtf8(argv[i]);
   const marklink::Befehlszeile zeile = marklink::Befehlszeile_lesen(argumente);
-  const bool fenster =
-      zeile.Was == marklink::Befehlszeile::Art::Ausfuehren && marklink::Braucht_Fenster(zeile.Aufruf_);
+  auto art = marklink::Anwendungsart::Ohne;
+  if (zeile.Was == marklink::Befehlszeile::Art::Ausfuehren) {
+    if (marklink::Braucht_Fenster(zeile.Aufruf_)) art = marklink::Anwendungsart::Fenster;
+    if (marklink::Braucht_Schriften(zeile.Aufruf_)) art = marklink::Anwendungsart::Schriften;
+  }
   int nur_name = 1;  // the arguments are ours, none of them is the toolkit's
-  const auto programm = marklink::Anwendung_erzeugen(nur_name, argv, fenster);
+  const auto programm = marklink::Anwendung_erzeugen(nur_name, argv, art);
   return marklink::Launcher_starten(zeile);
 }

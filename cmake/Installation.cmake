@@ -5,6 +5,7 @@ include(CMakePackageConfigHelpers)
 install(TARGETS marklink EXPORT marklink LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(TARGETS marklink_app RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY include/marklink DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY docs/hilfe DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY shopscript/ DESTINATION ${CMAKE_INSTALL_DATADIR}/marklink/shopscript)
 
 set(paketordner ${CMAKE_INSTALL_LIBDIR}/cmake/marklink)

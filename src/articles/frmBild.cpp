@@ -27,7 +27,7 @@ void frmBild::Bildname_setzen(const QString &Pfad) { picBild->Bild_setzen(Pfad);
 
 void frmBild::keyPressEvent(QKeyEvent *Ereignis) {
   if (Ereignis->key() == Qt::Key_F1)
-    Hilfe_zeigen(Hilfethema::Auftragsverwaltung);
+    Hilfe_zeigen(Hilfethema::Bild);
   else
     QDialog::keyPressEvent(Ereignis);
 }

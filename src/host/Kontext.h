@@ -69,6 +69,7 @@ struct Programmkontext {
   bool gLaeuft = false;              ///< a batch runs
   qint32 gVersender = 0;             ///< shipper; only 0 exists
   double gFreeShippingAmount = 0.0;  ///< the free-shipping limit last found
+  QString gHyperlink;                ///< text of the link last clicked in a report
 };
 
 extern Programmkontext Kontext;

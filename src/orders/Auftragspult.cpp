@@ -1,6 +1,7 @@
 // The order desk's commands.
 #include "Auftragspult.h"
 
+#include "Auftragsdruck.h"
 #include "Auftragsstati.h"
 #include "Belegstapel.h"
 #include "Bestellabruf.h"
@@ -95,6 +96,12 @@ void Auftragspult::Kunden() {
 void Auftragspult::Auftrag() { Belege_erzeugen(Stapel_Auftraege, Liste); }
 
 void Auftragspult::Rechnung() { Belege_erzeugen(Stapel_Rechnungen, Liste); }
+
+void Auftragspult::drucken_bestellliste() { Bestellliste_drucken(Liste); }
+
+void Auftragspult::drucken_transaktionsliste() { Transaktionsliste_drucken(Liste); }
+
+void Auftragspult::drucken_transaktionsliste_datei() { Transaktionsliste_exportieren(Liste); }
 
 void Auftragspult::Einstellung() {
   dialoge().Schirm_zeigen(QStringLiteral("frmEinstellungen"));

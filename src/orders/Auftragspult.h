@@ -38,6 +38,10 @@ class Auftragspult {
   void Kunden();
   void Auftrag();
   void Rechnung();
+  // The lists of the marked orders.
+  void drucken_bestellliste();
+  void drucken_transaktionsliste();
+  void drucken_transaktionsliste_datei();
   void Einstellung();
   void Versand();
   void versand_einstellungen();

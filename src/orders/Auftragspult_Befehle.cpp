@@ -17,6 +17,9 @@ constexpr Pultbefehl Befehle[] = {
     {"Kunden", &Auftragspult::Kunden},
     {"Auftrag", &Auftragspult::Auftrag},
     {"Rechnung", &Auftragspult::Rechnung},
+    {"Drucken", &Auftragspult::drucken_bestellliste},
+    {"drucken_transaktionsliste", &Auftragspult::drucken_transaktionsliste},
+    {"drucken_transaktionsliste_datei", &Auftragspult::drucken_transaktionsliste_datei},
     {"Einstellung", &Auftragspult::Einstellung},
     {"Versand", &Auftragspult::Versand},
     {"versand_einstellungen", &Auftragspult::versand_einstellungen},
@@ -25,6 +28,9 @@ constexpr Pultbefehl Befehle[] = {
     {"mnuKontext_Markierung_aufheben", &Auftragspult::mnuKontext_Markierung_aufheben},
     {"mnuKontext_Versender", &Auftragspult::mnuKontext_Versender},
     {"mnuKontext_Rechnungscheck", &Auftragspult::mnuKontext_Rechnungscheck},
+    {"mnuKontext_Drucken_Bestellliste", &Auftragspult::drucken_bestellliste},
+    {"mnuKontext_Drucken_Transaktionsliste", &Auftragspult::drucken_transaktionsliste},
+    {"mnuKontext_Drucken_Transaktionsliste_Datei", &Auftragspult::drucken_transaktionsliste_datei},
     {"cmdAktualisieren", &Auftragspult::Aktualisieren},
 };
 

@@ -50,7 +50,7 @@ void frmBestellstatus::Aufbauen() {
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, &frmBestellstatus::Senden);
   connect(abbrechen, &QPushButton::clicked, this, &QDialog::reject);
-  connect(hilfe, &QPushButton::clicked, this, [] { Hilfe_zeigen(Hilfethema::Auftragsverwaltung); });
+  connect(hilfe, &QPushButton::clicked, this, [] { Hilfe_zeigen(Hilfethema::Bestellstatus); });
   auto *knoepfe = new QHBoxLayout;
   knoepfe->addStretch();
   for (QPushButton *knopf : {ok, abbrechen, hilfe}) knoepfe->addWidget(knopf);
@@ -83,7 +83,7 @@ void frmBestellstatus::Senden() {
 
 void frmBestellstatus::keyPressEvent(QKeyEvent *Ereignis) {
   if (Ereignis->key() == Qt::Key_F1)
-    Hilfe_zeigen(Hilfethema::Auftragsverwaltung);
+    Hilfe_zeigen(Hilfethema::Bestellstatus);
   else
     QDialog::keyPressEvent(Ereignis);
 }

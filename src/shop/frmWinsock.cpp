@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
+#include <QShortcut>
 
 #include "host/Kontext.h"
+#include "ui/Hilfe.h"
 
 namespace marklink {
 
@@ -25,6 +27,8 @@ frmWinsock::frmWinsock(Verbindungsauftrag &Auftrag, QWidget *Eltern)
   shpConnected->setObjectName(QStringLiteral("shpConnected"));
   lblProgress_gesendet->setObjectName(QStringLiteral("lblProgress_gesendet"));
   lblProgress_empfangen->setObjectName(QStringLiteral("lblProgress_empfangen"));
+  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+          [] { Hilfe_zeigen(Hilfethema::Verbindung); });
   auto *gitter = new QGridLayout(this);
   gitter->addWidget(shpConnected, 0, 0, Qt::AlignTop);
   gitter->addWidget(lbStatus, 0, 1, 1, 2);

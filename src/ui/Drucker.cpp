@@ -1,6 +1,8 @@
 // The installed printers, and none at all when no port was installed.
 #include "Drucker.h"
 
+#include <optional>
+
 namespace marklink {
 
 namespace {
@@ -12,6 +14,7 @@ class Ohne_Drucker final : public Drucker {
 };
 
 Drucker *Installiert = nullptr;
+std::optional<Druckereinstellung> Gewaehlt;
 
 }  // namespace
 
@@ -20,6 +23,17 @@ Drucker &drucker() {
   return Installiert != nullptr ? *Installiert : ohne;
 }
 
-void Drucker_setzen(Drucker *Neu) { Installiert = Neu; }
+void Drucker_setzen(Drucker *Neu) {
+  Installiert = Neu;
+  Gewaehlt.reset();
+}
+
+Druckereinstellung Aktueller_Drucker() {
+  if (Gewaehlt) return *Gewaehlt;
+  const QString standard = drucker().Standard();
+  return drucker().Einstellung(standard.isEmpty() ? drucker().Namen().value(0) : standard);
+}
+
+void Aktueller_Drucker_setzen(const Druckereinstellung &Neu) { Gewaehlt = Neu; }
 
 }  // namespace marklink

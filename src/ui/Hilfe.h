@@ -9,11 +9,16 @@ using Hilfeanzeige = void (*)(int Thema);
 void Hilfe_zeigen(int Thema);
 void Hilfe_setzen(Hilfeanzeige Neu);  ///< nullptr: none
 
-/// The topics of the screens.
+/// The topics of the screens; their pages stand in Hilfethemen.cpp. 1151 is the web article's.
 namespace Hilfethema {
 enum : int {
   Auftragsverwaltung = 1150,
   Einstellungen = 1152,
+  Bestellstatus,
+  Bild,
+  Tabelle_formatieren,
+  Fortschritt,
+  Verbindung,
   Liste_Lieferzeiten = 1160,
   Liste_Auftragsstati,
   Liste_Sprachen,
@@ -23,6 +28,7 @@ enum : int {
   Liste_Einheiten,
   Versandliste = 1170,
   Versandeinstellungen,
+  Druckvorschau,
 };
 }
 

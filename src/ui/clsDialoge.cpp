@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -102,7 +103,21 @@ QString clsDialoge::Datei_oeffnen(const QString &Titel, const QString &Filter, c
 }
 
 QString clsDialoge::Datei_speichern(const QString &Titel, const QString &Filter, const QString &Vorgabe) {
-  return QFileDialog::getSaveFileName(QApplication::activeWindow(), Titel, Vorgabe, Dateifilter(Filter));
+  QFileDialog dialog(QApplication::activeWindow(), Titel);
+  dialog.setObjectName(QStringLiteral("Datei_speichern"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setNameFilters(Dateifilter(Filter).split(QStringLiteral(";;")));
+  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Speichern"));
+  const QFileInfo vorgabe(Vorgabe);
+  dialog.setDirectory(vorgabe.isDir() ? Vorgabe : vorgabe.path());
+  if (!vorgabe.isDir()) dialog.selectFile(vorgabe.fileName());
+  // A name without an ending gets that of the chosen kind.
+  const auto endung_setzen = [&dialog](const QString &art) {
+    dialog.setDefaultSuffix(art.section(QStringLiteral("*."), -1).section(u')', 0, 0).section(u' ', 0, 0));
+  };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, endung_setzen);
+  endung_setzen(dialog.selectedNameFilter());
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 std::optional<quint32> clsDialoge::Farbe(quint32 Vorgabe) {

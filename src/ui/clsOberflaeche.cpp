@@ -17,7 +17,9 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include "Hilfe.h"
 #include "clsDialoge.h"
+#include "frmHilfe.h"
 #include "frmProgress.h"
 
 // The icons lie in a static library: nothing else would pull them in. Outside of any namespace, as it must
@@ -80,6 +82,7 @@ void Oberflaeche_einrichten() {
   QLocale::setDefault(Deutschland());
   if (!Dialoge_gesetzt()) Dialoge_setzen(&Eingerichtet->Dialoge_);
   if (!Fortschritt_gesetzt()) Fortschritt_setzen(&Eingerichtet->Fortschritt_);
+  Hilfe_setzen(&frmHilfe::Zeigen);
 }
 
 void Oberflaeche_abbauen() {
@@ -88,6 +91,8 @@ void Oberflaeche_abbauen() {
   if (&dialoge() == &Eingerichtet->Dialoge_) Dialoge_setzen(nullptr);
   if (&fortschritt() == &Eingerichtet->Fortschritt_) Fortschritt_setzen(nullptr);
   if (QLocale() == Deutschland()) QLocale::setDefault(Eingerichtet->Sprache_vorher);
+  Hilfe_setzen(nullptr);
+  frmHilfe::Abbauen();
   Eingerichtet.reset();
 }
 

@@ -8,9 +8,11 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "Hilfe.h"
 #include "host/Kontext.h"
 
 namespace marklink {
@@ -34,6 +36,8 @@ frmProgress::frmProgress(QWidget *Eltern)
   ProgressBar1->setObjectName(QStringLiteral("ProgressBar1"));
   cmdAbbrechen->setObjectName(QStringLiteral("cmdAbbrechen"));
   connect(cmdAbbrechen, &QPushButton::clicked, this, &frmProgress::reject);
+  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+          [] { Hilfe_zeigen(Hilfethema::Fortschritt); });
   auto *zeilen = new QVBoxLayout(this);
   zeilen->addWidget(lbTitel);
   zeilen->addWidget(ProgressBar1);

@@ -7,8 +7,10 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QTreeWidget>
 
+#include "Hilfe.h"
 #include "clsOberflaeche.h"
 #include "clsTabelle.h"
 
@@ -60,6 +62,8 @@ frmTabelle_Formatieren::frmTabelle_Formatieren(clsTabelle &Tabelle, const QStrin
   connect(cmdAb, &QPushButton::clicked, this, [this] { Zeile_verschieben(1); });
   connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
   connect(cmdAbbrechen, &QPushButton::clicked, this, &QDialog::reject);
+  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+          [] { Hilfe_zeigen(Hilfethema::Tabelle_formatieren); });
   Text_markieren(this);
   Liste_zeigen(0);
 }

@@ -40,7 +40,8 @@ TEST(Aufruf_Test, falsche_Aufrufe) {
        "marklink: Die Option '--typ' nimmt eine Zahl von 0 bis 1, nicht '2'."},
       {"mandant demo --port 0", "marklink: Die Option '--port' nimmt eine Zahl von 1 bis 65535, nicht '0'."},
       {"schirm kasse",
-       "marklink: Den Schirm 'kasse' gibt es nicht; es gibt: auftragsverwaltung, einstellungen."},
+       "marklink: Den Schirm 'kasse' gibt es nicht; es gibt: auftragsverwaltung, einstellungen, versand, "
+       "versand_einstellungen."},
       {"vervollstaendigung fisch", "marklink: Für die Shell 'fisch' gibt es keine Vervollständigung"},
   };
   for (const auto &fall : faelle) {

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QTreeWidget>
 
 #include "Befehlszeile.h"
@@ -53,6 +54,14 @@ class frmSchirm_Test : public ::testing::TestWithParam<const char *> {
     QTest::keyClick(&Fenster, Qt::Key_Return);
   }
 
+  /// The help window is shown, and the page that it shows.
+  static QString Hilfeseite_nach_F1(QWidget &Fenster) {
+    QTest::keyClick(&Fenster, Qt::Key_F1);
+    for (QWidget *hilfe : QApplication::topLevelWidgets())
+      if (hilfe->objectName() == u"frmHilfe" && hilfe->isVisible())
+        return Kind<QTextBrowser>(*hilfe, u"txtSeite").source().toString().section(u'/', -1);
+    return {};
+  }
   static void Einstellen(const char *Abschnitt, const char *Schluessel, const char *Wert) {
     EXPECT_EQ(Starten({"einstellung", "schreiben", Abschnitt, Schluessel, Wert}), 0);
   }
@@ -79,6 +88,22 @@ TEST_P(frmSchirm_Test, Auftragsverwaltung_fragt_erst_nach_dem_Projekt) {
   Schritte.Dann(&Hinweis_bestaetigen);
   EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 1);
   EXPECT_EQ(Projekt(), QString());
+}
+
+TEST_P(frmSchirm_Test, F1_zeigt_die_Seite_des_Fensters) {
+  Schritte.Dann([](QWidget &einstellungen) {
+    EXPECT_EQ(Hilfeseite_nach_F1(einstellungen), QStringLiteral("einstellungen.html"));
+    Projekt_eintragen(einstellungen);
+  });
+  EXPECT_EQ(Starten({"schirm", "einstellungen"}), 0);
+  Schritte.Dann([this](QWidget &pult) {
+    EXPECT_EQ(Hilfeseite_nach_F1(pult), QStringLiteral("auftragsverwaltung.html"));
+    Schritte.Dann([](QWidget &liste) {
+      EXPECT_EQ(Hilfeseite_nach_F1(liste), QStringLiteral("listen.html#kundengruppen"));
+    });
+    Kind<QAction>(pult, u"einstellungen_kundengruppen").trigger();
+  });
+  EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 0);
 }
 
 TEST_P(frmSchirm_Test, Einstellungen_Listen_und_Tabelle_vom_Pult_aus) {

@@ -5,6 +5,7 @@
 
 #include "lists/frmListen.h"
 #include "orders/frmMain.h"
+#include "reports/frmVorschau.h"
 #include "shipping/frmVersender_EASYLOG.h"
 #include "shop/Austausch.h"
 #include "shop/frmEinstellungen.h"
@@ -32,6 +33,7 @@ void Fenster_einrichten() {
   Eingerichtet = true;
   Oberflaeche_einrichten();
   if (Verbindungsfenster_gesetzt() == nullptr) Verbindungsfenster_setzen(&Verbindungsfenster_zeigen);
+  Druckfenster_einrichten();
   Schirme_anmelden();
   // No window may outlive the application.
   qAddPostRoutine(&Fenster_abbauen);
@@ -42,6 +44,7 @@ void Fenster_abbauen() {
   Eingerichtet = false;
   qRemovePostRoutine(&Fenster_abbauen);
   if (Verbindungsfenster_gesetzt() == &Verbindungsfenster_zeigen) Verbindungsfenster_setzen(nullptr);
+  Druckfenster_abbauen();
   Oberflaeche_abbauen();
 }
 
