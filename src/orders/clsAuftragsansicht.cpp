@@ -25,16 +25,6 @@ constexpr struct {
                         {u"Bezeichnung", 36, false}, {u"Optionen", 24, false},   {u"Einzelpreis", 13, true},
                         {u"Rabatt", 10, true}};
 
-QPlainTextEdit *Textfeld(const char16_t *Name) {
-  auto *feld = new QPlainTextEdit;
-  feld->setObjectName(QString::fromUtf16(Name));
-  feld->setReadOnly(true);
-  feld->setTabChangesFocus(true);
-  // A read-only field shows no cursor, but its text can be selected and copied by keys.
-  feld->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  return feld;
-}
-
 QLabel *Anzeigefeld(const char16_t *Name) {
   auto *feld = new QLabel;
   feld->setObjectName(QString::fromUtf16(Name));
@@ -55,10 +45,10 @@ clsAuftragsansicht::clsAuftragsansicht(QWidget *Eltern)
       lbGeaendert(Anzeigefeld(u"lbGeaendert")),
       lbVerfuegbar(Anzeigefeld(u"lbVerfuegbar")),
       lbReserviert(Anzeigefeld(u"lbReserviert")),
-      txtRechnungsanschrift(Textfeld(u"txtRechnungsanschrift")),
-      txtLieferanschrift(Textfeld(u"txtLieferanschrift")),
-      txtZahlungsinformationen(Textfeld(u"txtZahlungsinformationen")),
-      txtBemerkungen(Textfeld(u"txtBemerkungen")) {
+      txtRechnungsanschrift(Lesefeld_bauen(u"txtRechnungsanschrift")),
+      txtLieferanschrift(Lesefeld_bauen(u"txtLieferanschrift")),
+      txtZahlungsinformationen(Lesefeld_bauen(u"txtZahlungsinformationen")),
+      txtBemerkungen(Lesefeld_bauen(u"txtBemerkungen")) {
   setObjectName(QStringLiteral("gnTab1"));
   addTab(Positionen_bauen(), QStringLiteral("Positionen"));
   addTab(Kunde_bauen(), QStringLiteral("Kunde"));

@@ -47,15 +47,6 @@ constexpr Fensterbefehl Kontextmenue[] = {
     {"mnuKontext_Tabelle_Formatieren", u"Tabelle &formatieren...", "tabelle_formatieren"},
 };
 
-QPlainTextEdit *Anschriftfeld(const char16_t *Name) {
-  auto *feld = new QPlainTextEdit;
-  feld->setObjectName(QString::fromUtf16(Name));
-  feld->setReadOnly(true);
-  feld->setTabChangesFocus(true);
-  feld->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  return feld;
-}
-
 /// A tint of the grid's own background, on a dark desktop as well.
 qint32 Getoent(const QColor &Grund, const QColor &Ton) {
   constexpr double anteil = 0.22;
@@ -71,8 +62,8 @@ frmVersender_EASYLOG::frmVersender_EASYLOG(QWidget *Eltern)
       mnuKontext(new QMenu(this)),
       jgTab(new clsTabelle),
       cboZeitraum(new QComboBox),
-      txtRechnungsanschrift(Anschriftfeld(u"txtRechnungsanschrift")),
-      txtLieferanschrift(Anschriftfeld(u"txtLieferanschrift")),
+      txtRechnungsanschrift(Lesefeld_bauen(u"txtRechnungsanschrift")),
+      txtLieferanschrift(Lesefeld_bauen(u"txtLieferanschrift")),
       Teiler_(new QSplitter(Qt::Horizontal)),
       lbAnzahl(new QLabel) {
   setObjectName(QStringLiteral("frmVersender_EASYLOG"));

@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QPlainTextEdit>
 #include <QSet>
 #include <QStyle>
 #include <QSvgRenderer>
@@ -124,6 +125,15 @@ QHBoxLayout *Tipp_bauen(const QString &Text, QWidget *Eltern) {
   zeile->addWidget(bild, 0, Qt::AlignTop);
   zeile->addWidget(text, 1);
   return zeile;
+}
+
+QPlainTextEdit *Lesefeld_bauen(const char16_t *Name) {
+  auto *feld = new QPlainTextEdit;
+  feld->setObjectName(QString::fromUtf16(Name));
+  feld->setReadOnly(true);
+  feld->setTabChangesFocus(true);
+  feld->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  return feld;
 }
 
 void Andere_Fenster_schliessen(const QWidget *Ausser) {

@@ -6,6 +6,7 @@
 #include <QString>
 
 class QHBoxLayout;
+class QPlainTextEdit;
 class QWidget;
 
 namespace marklink {
@@ -27,6 +28,9 @@ QString Hinweistext(const QString &Text);
 
 /// A text that helps, behind the sign for information.
 QHBoxLayout *Tipp_bauen(const QString &Text, QWidget *Eltern);
+
+/// A field of several lines that shows a text; it can be selected and copied, by keys as well.
+QPlainTextEdit *Lesefeld_bauen(const char16_t *Name);
 
 /// Closes the library's other open windows, not those of the host. One in the middle of a run closes behind
 /// it.
