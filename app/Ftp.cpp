@@ -51,7 +51,8 @@ int Weiter(void *, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
 size_t Verwerfen(char *, size_t Groesse, size_t Anzahl, void *) { return Groesse * Anzahl; }
 
 size_t Lesen(char *Ziel, size_t Groesse, size_t Anzahl, void *Datei) {
-  const qint64 gelesen = static_cast<QFile *>(Datei)->read(Ziel, static_cast<qint64>(Groesse * Anzahl));
+  const qint64 gelesen =
+      static_cast<QFile *>(Datei)->read(Ziel, static_cast<qint64>(Groesse) * static_cast<qint64>(Anzahl));
   return gelesen < 0 ? CURL_READFUNC_ABORT : static_cast<size_t>(gelesen);
 }
 

@@ -5,8 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QSaveFile>
 
+#include "host/Dateien.h"
 #include "host/Ini.h"
 #include "host/Zeichensatz.h"
 #include "stammdaten/Stammdaten.h"
@@ -70,8 +70,7 @@ void Datei_merken(const QString &Datei, Ruecknahme &Zurueck) {
     Zurueck.Merken([Datei, alt = f.readAll()] {
       QFile jetzt(Datei);
       if (jetzt.open(QIODevice::ReadOnly) && jetzt.readAll() == alt) return;
-      QSaveFile ziel(Datei);
-      if (ziel.open(QIODevice::WriteOnly) && ziel.write(alt) == alt.size()) ziel.commit();
+      Datei_ersetzen(Datei, alt, QStringLiteral("Ruecknahme"));
     });
   }
 }

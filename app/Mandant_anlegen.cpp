@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTemporaryDir>
 #include <algorithm>
 
@@ -14,6 +13,7 @@
 #include "Ruecknahme.h"
 #include "Shopscript.h"
 #include "db/Verbindung.h"
+#include "host/Dateien.h"
 #include "host/Dateisperre.h"
 #include "host/Datenbank.h"
 #include "host/Ini.h"
@@ -108,11 +108,8 @@ void Einstellungsdatei_beginnen(const std::vector<app::Einstellung> &Einstellung
         text += e.Schluessel + u'=' + e.Wert + QStringLiteral("\r\n");
     text += QStringLiteral("\r\n");
   }
-  QSaveFile datei(Kontext.gAfkDatei);
-  if (!datei.open(QIODevice::WriteOnly)) return;
-  datei.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-  datei.write(Nach_1252(text));
-  datei.commit();
+  Datei_ersetzen(Kontext.gAfkDatei, Nach_1252(text), QStringLiteral("Mandant"),
+                 QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
 /// The settings of every new client under those of the plan: a later one takes the place of an earlier one,

@@ -16,7 +16,7 @@ QImage Bild_laden(const QString &Pfad) {
   QImageReader leser(Pfad);
   leser.setDecideFormatFromContent(true);
   leser.setAutoTransform(true);
-  const QImage bild = leser.read();
+  QImage bild = leser.read();
   if (bild.isNull()) Ablauf_melden(QStringLiteral("Bild"), Pfad + QStringLiteral(": ") + leser.errorString());
   return bild;
 }

@@ -1,14 +1,11 @@
 // Small look-ups and writers on the client's database that everybody shares.
 #include "Datenbank.h"
 
-#include <QSaveFile>
-
 #include "Dateien.h"
 #include "Ini.h"
 #include "Kontext.h"
 #include "Texte.h"
 #include "Zahlen.h"
-#include "db/Ablaufverfolgung.h"
 
 namespace marklink {
 namespace {
@@ -97,9 +94,7 @@ QString Feld_in_Datei(const QString &Datenbank, const QString &Datei, const QStr
   const QByteArray bytes = rs.Value(Feld).toByteArray();
   // Without a value an existing file stays what it was.
   if (rs.IsNull(Feld)) return ziel;
-  QSaveFile f(ziel);
-  if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size() || !f.commit())
-    Ablauf_melden(QStringLiteral("Feld_in_Datei"), QStringLiteral("%1: %2").arg(ziel, f.errorString()));
+  Datei_ersetzen(ziel, bytes, QStringLiteral("Feld_in_Datei"));
   return ziel;
 }
 

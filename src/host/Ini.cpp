@@ -6,10 +6,10 @@
 
 #include <QFile>
 #include <QHash>
-#include <QSaveFile>
 #include <QSet>
 #include <QStringList>
 
+#include "Dateien.h"
 #include "Dateisperre.h"
 #include "Zeichensatz.h"
 #include "db/Ablaufverfolgung.h"
@@ -199,21 +199,15 @@ bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString
   // A dialog saves all its keys; the disk is waited for only where one has changed.
   if (ini && zeilen == ini->Zeilen) return true;
   while (!zeilen.isEmpty() && zeilen.back().isEmpty()) zeilen.removeLast();
-  QSaveFile f(Datei);
-  if (!f.open(QIODevice::WriteOnly)) {
-    Ablauf_melden(stelle, QStringLiteral("%1: %2").arg(Datei, f.errorString()));
-    return false;
-  }
-  // Settings hold passwords: a new file is its owner's alone.
-  if (neu) f.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
   bool vollstaendig = true;
   Nach_1252(Wert, &vollstaendig);
   if (!vollstaendig)
     Schluessel_melden(Abschnitt, Schluessel, QStringLiteral("character outside Windows-1252 became ?"));
-  f.write(Nach_1252(zeilen.join(QLatin1String("\r\n")) + QLatin1String("\r\n")));
-  if (f.commit()) return true;
-  Ablauf_melden(stelle, QStringLiteral("%1: %2").arg(Datei, f.errorString()));
-  return false;
+  // Settings hold passwords: a new file is its owner's alone.
+  std::optional<QFileDevice::Permissions> rechte;
+  if (neu) rechte = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+  return Datei_ersetzen(Datei, Nach_1252(zeilen.join(QLatin1String("\r\n")) + QLatin1String("\r\n")), stelle,
+                        rechte);
 }
 
 }  // namespace marklink

@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <csignal>
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -138,6 +141,21 @@ TEST_F(Ini_Test, neue_Datei_gehoert_nur_ihrem_Besitzer) {
       Ini_schreiben(Pfad, QStringLiteral("Marklink"), QStringLiteral("password"), QStringLiteral("x")));
   EXPECT_EQ(QFile::permissions(Pfad) & (QFileDevice::ReadGroup | QFileDevice::ReadOther),
             QFileDevice::Permissions());
+}
+
+TEST_F(Ini_Test, eine_volle_Platte_kostet_keine_Zeile) {
+  const QByteArray vorher = "[Program]\r\nCurrency=EUR\r\nCountry=Deutschland\r\n";
+  Datei_schreiben(vorher);
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit grenze{};
+  getrlimit(RLIMIT_FSIZE, &grenze);
+  const rlimit klein{30, grenze.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &klein);
+  const bool geschrieben =
+      Ini_schreiben(Pfad, QStringLiteral("Program"), QStringLiteral("Neu"), QStringLiteral("1"));
+  setrlimit(RLIMIT_FSIZE, &grenze);
+  EXPECT_FALSE(geschrieben);
+  EXPECT_EQ(Datei_lesen(), vorher);
 }
 
 }  // namespace
