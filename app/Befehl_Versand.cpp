@@ -112,7 +112,11 @@ int Befehl_Versand_exportieren(const Aufruf &A) {
                .arg(Anzeigbar(export_.Datei)));
   if (export_.Geschrieben == export_.Versandauftraege) return Erledigt;
   Fehler_melden(
-      QStringLiteral("Die Exportdatei '%1' konnte nicht vollständig geschrieben werden.").arg(export_.Datei));
+      export_.Markiert
+          ? QStringLiteral("Die Exportdatei '%1' konnte nicht vollständig geschrieben werden.")
+                .arg(export_.Datei)
+          : QStringLiteral("Ein Versandauftrag konnte nicht als exportiert vermerkt werden; er und die "
+                           "folgenden bleiben offen."));
   return Fehlgeschlagen;
 }
 

@@ -202,7 +202,7 @@ bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString
   bool vollstaendig = true;
   Nach_1252(Wert, &vollstaendig);
   if (!vollstaendig)
-    Schluessel_melden(Abschnitt, Schluessel, QStringLiteral("character outside Windows-1252 became ?"));
+    Schluessel_melden(Abschnitt, Schluessel, QStringLiteral("character outside Windows-1252 became another"));
   // Settings hold passwords: a new file is its owner's alone.
   std::optional<QFileDevice::Permissions> rechte;
   if (neu) rechte = QFileDevice::ReadOwner | QFileDevice::WriteOwner;

@@ -29,6 +29,13 @@ QString Null_als_Text(const QVariant &Wert) {
   }
 }
 
+QString Grossbuchstaben(const QString &Text) {
+  QString gross = Text;
+  for (QChar &z : gross)
+    if (z != u'\u00B5' && z != u'\u0192') z = z.toUpper();  // those have theirs outside the set
+  return gross;
+}
+
 QString Text_Pruefsumme(const QString &Text) {
   const QByteArray bytes = Nach_1252(Text);
   qint64 summe = 0;

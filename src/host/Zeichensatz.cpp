@@ -24,21 +24,61 @@ int Byte_von(char16_t Z) {
   return -1;
 }
 
+/// Letters without a base letter to be found, and what prints alike. Nothing here becomes a character that
+/// means something in an address of the web.
+char Aehnliches(char16_t Z) {
+  static constexpr struct {
+    char16_t Zeichen;
+    char Byte;
+  } Tafel[] = {{0x0110, 'D'}, {0x0111, 'd'}, {0x0126, 'H'}, {0x0127, 'h'},    {0x0131, 'i'}, {0x0141, 'L'},
+               {0x0142, 'l'}, {0x0166, 'T'}, {0x0167, 't'}, {0x1E9E, '\xDF'}, {0x2009, ' '}, {0x202F, ' '},
+               {0x2010, '-'}, {0x2011, '-'}, {0x2012, '-'}, {0x2212, '-'}};
+  for (const auto &[zeichen, byte] : Tafel)
+    if (zeichen == Z) return byte;
+  return '?';
+}
+
+/// The place behind the character at `Stelle` and the marks (accents, dots) that stand on it.
+qsizetype Zeichenende(QStringView Text, qsizetype Stelle) {
+  const bool paar =
+      Text[Stelle].isHighSurrogate() && Stelle + 1 < Text.size() && Text[Stelle + 1].isLowSurrogate();
+  qsizetype ende = Stelle + (paar ? 2 : 1);
+  while (ende < Text.size() && Text[ende].isMark()) ++ende;
+  return ende;
+}
+
+/// The byte of a character with its marks that the set lacks in this form: the same letter in one piece, the
+/// letter without its marks, or "?". Other than letters are not taken apart: some signs are made of "<", "="
+/// and ";".
+char Ersatz(QStringView Zeichen) {
+  const QString ganz = Zeichen.toString();
+  const QString zusammen = ganz.normalized(QString::NormalizationForm_C);
+  if (zusammen.size() == 1 && zusammen[0].isLetter() && Byte_von(zusammen[0].unicode()) >= 0)
+    return char(Byte_von(zusammen[0].unicode()));
+  if (const int byte = Byte_von(Zeichen[0].unicode()); byte >= 0) return char(byte);
+  const QChar grund = ganz.normalized(QString::NormalizationForm_D)[0];
+  if (grund.isLetter() && Byte_von(grund.unicode()) >= 0) return char(Byte_von(grund.unicode()));
+  return Aehnliches(grund.unicode());
+}
+
 }  // namespace
 
 QByteArray Nach_1252(QStringView Text, bool *Vollstaendig) {
   if (Vollstaendig) *Vollstaendig = true;
   QByteArray bytes;
   bytes.reserve(Text.size());
-  for (qsizetype i = 0; i < Text.size(); ++i) {
+  for (qsizetype i = 0; i < Text.size();) {
     const int byte = Byte_von(Text[i].unicode());
-    if (byte >= 0) {
+    const bool allein = i + 1 == Text.size() || Text[i + 1] < u'\u0300' || !Text[i + 1].isMark();
+    if (byte >= 0 && allein) {
       bytes.append(char(byte));
+      ++i;
       continue;
     }
     if (Vollstaendig) *Vollstaendig = false;
-    bytes.append('?');
-    if (Text[i].isHighSurrogate() && i + 1 < Text.size() && Text[i + 1].isLowSurrogate()) ++i;
+    const qsizetype ende = Zeichenende(Text, i);
+    bytes.append(Ersatz(Text.sliced(i, ende - i)));
+    i = ende;
   }
   return bytes;
 }

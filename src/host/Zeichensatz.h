@@ -7,7 +7,8 @@
 
 namespace marklink {
 
-/// Never fails: a character outside the set becomes "?" and sets *Vollstaendig to false.
+/// Never fails: a character outside the set becomes the letter that is nearest ("Łódź" -> "Lódz", "a" with a
+/// mark of its own -> "ä"), else "?". *Vollstaendig tells whether Von_1252() gives the text back as it was.
 QByteArray Nach_1252(QStringView Text, bool *Vollstaendig = nullptr);
 
 /// Never fails: the five unassigned bytes become the control characters of the same number.

@@ -3,6 +3,7 @@
 
 #include "host/Kontext.h"
 #include "host/Laender.h"
+#include "host/Texte.h"
 #include "shop/Antwort.h"
 
 namespace marklink {
@@ -28,7 +29,7 @@ QString Anschriftblock_erzeugen(const pugi::xml_node &Anschrift) {
     if (!block.contains(feld.Name)) continue;
     block.replace(feld.Name, feld.Knoten ? Knoten_Text(Anschrift, feld.Knoten) : QString());
   }
-  block.replace(QLatin1String("$Country"), Land_ist_Ausland(land) ? land.toUpper() : QString());
+  block.replace(QLatin1String("$Country"), Land_ist_Ausland(land) ? Grossbuchstaben(land) : QString());
   return block;
 }
 

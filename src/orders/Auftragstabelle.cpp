@@ -29,6 +29,7 @@ std::vector<QStringList> Versandarten(const std::vector<Versandauswahl> &Liste) 
 std::vector<Tabellenspalte> Auftragstabelle_Spalten(const Auswahllisten &Listen) {
   using Art = Tabellenspalte::Art;
   std::vector<Tabellenspalte> spalten;
+  spalten.reserve(Auftragsspalten().size());
   for (const Auftragsspalte &spalte : Auftragsspalten())
     spalten.push_back({QLatin1String(spalte.Schluessel), QString::fromUtf16(spalte.Titel)});
   const auto von = [&spalten](const char *Schluessel) -> Tabellenspalte & {

@@ -2,6 +2,7 @@
 #include "frmMain.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>

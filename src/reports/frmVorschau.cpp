@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QScreen>
 #include <QShortcut>
 #include <QSpinBox>

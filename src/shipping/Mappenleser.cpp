@@ -1,20 +1,31 @@
 // Reading an Excel file. The reader of the format trusts its file: a damaged one can crash it, or send it
 // astray for ever. So it works in a process of its own, and what goes wrong there is a workbook that cannot
 // be read. A file that has not changed is not read again.
+//
+// A library has no program of its own that it could start, so the process is a copy of the caller's. Where
+// that has threads, a lock that one of them holds can stop the copy: then it is given up after a while, and
+// the next look-up tries again.
 #include "Mappenleser.h"
 
 #include <fcntl.h>
 #include <freexl.h>
+#include <poll.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDataStream>
+#include <QElapsedTimer>
 #include <QFile>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <optional>
 
 #include "host/Datumsbilder.h"
 #include "host/Zahlen.h"
@@ -23,6 +34,8 @@ namespace marklink {
 namespace {
 
 constexpr unsigned int Wartezeit_Sekunden = 10;
+constexpr rlim_t Rechenzeit_Sekunden = 5;  // less, so that a loaded machine is told from a reader astray
+constexpr rlim_t Mehr_Speicher = rlim_t{512} * 1024 * 1024;
 constexpr qsizetype Groesste_Antwort = qsizetype{64} * 1024 * 1024;
 constexpr unsigned int Meiste_Zeilen = 65536, Meiste_Spalten = 256;  // of the format
 constexpr quint32 Endemarke = 0x4d415050;
@@ -99,17 +112,44 @@ QByteArray Mappe_uebersetzen(const QByteArray &Pfad) {
   return bytes;
 }
 
-/// An exception ends it too; the caller's own work is not to run a second time.
-[[noreturn]] void Im_eigenen_Prozess(const QByteArray &Pfad, int Ausgang) noexcept {
-  // The caller's crash handler is not for this process, and nobody needs a core of it.
-  for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL, SIGALRM, SIGPIPE})
+void Grenze_setzen(__rlimit_resource Was, rlim_t Wert) {
+  rlimit grenze{};
+  if (getrlimit(Was, &grenze) != 0) return;
+  grenze.rlim_cur = std::min(grenze.rlim_cur, Wert);
+  setrlimit(Was, &grenze);
+}
+
+/// A damaged size in the file is not to cost the caller's program its memory.
+void Speicher_begrenzen() {
+  unsigned long seiten = 0;
+  std::FILE *datei = std::fopen("/proc/self/statm", "re");
+  if (datei == nullptr) return;
+  if (std::fscanf(datei, "%lu", &seiten) == 1)
+    Grenze_setzen(RLIMIT_AS, rlim_t(seiten) * rlim_t(sysconf(_SC_PAGESIZE)) + Mehr_Speicher);
+  std::fclose(datei);
+}
+
+/// Takes off what the caller's program has set up for itself: its crash handlers are not for this process.
+void Prozess_einrichten() {
+  for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL, SIGALRM, SIGXCPU, SIGPIPE})
     std::signal(signal, SIG_DFL);
-  const rlimit keiner{0, 0};
-  setrlimit(RLIMIT_CORE, &keiner);
+  std::set_terminate(std::abort);
+  sigset_t keine;
+  sigemptyset(&keine);
+  sigprocmask(SIG_SETMASK, &keine, nullptr);
+  Grenze_setzen(RLIMIT_CORE, 0);
+  Grenze_setzen(RLIMIT_CPU, Rechenzeit_Sekunden);
+  Speicher_begrenzen();
   const int stumm = open("/dev/null", O_WRONLY | O_CLOEXEC);
   if (stumm >= 0) dup2(stumm, STDERR_FILENO);
   alarm(Wartezeit_Sekunden);
+}
+
+/// An exception ends it too; the caller's own work is not to run a second time.
+[[noreturn]] void Im_eigenen_Prozess(const QByteArray &Pfad, int Ausgang) noexcept {
+  Prozess_einrichten();
   const QByteArray bytes = Mappe_uebersetzen(Pfad);
+  if (bytes.size() >= Groesste_Antwort) std::abort();
   for (qsizetype n = 0; n < bytes.size();) {
     const ssize_t geschrieben = write(Ausgang, bytes.constData() + n, size_t(bytes.size() - n));
     if (geschrieben <= 0) break;
@@ -118,20 +158,27 @@ QByteArray Mappe_uebersetzen(const QByteArray &Pfad) {
   _exit(0);
 }
 
-/// What the process wrote until it ended, in one way or another; at most so much.
-QByteArray Antwort_holen(int Eingang) {
+/// What the process wrote until it ended, in one way or another. Nothing when it did not end in time.
+std::optional<QByteArray> Antwort_holen(int Eingang) {
   QByteArray bytes;
   std::array<char, 65536> puffer{};
+  QElapsedTimer uhr;
+  uhr.start();
   while (bytes.size() < Groesste_Antwort) {
-    const ssize_t gelesen = read(Eingang, puffer.data(), puffer.size());
+    pollfd warten{Eingang, POLLIN, 0};
+    const qint64 rest = Wartezeit_Sekunden * qint64{1000} - uhr.elapsed();
+    const int bereit = rest > 0 ? poll(&warten, 1, int(rest)) : 0;
+    if (bereit == 0) return std::nullopt;
+    const ssize_t gelesen = bereit < 0 ? -1 : read(Eingang, puffer.data(), puffer.size());
     if (gelesen < 0 && errno == EINTR) continue;
-    if (gelesen <= 0) break;
+    if (gelesen <= 0) return bytes;
     bytes.append(puffer.data(), gelesen);
   }
-  return bytes;
+  return std::nullopt;
 }
 
-Tabellenmappe Antwort_deuten(const QByteArray &Bytes) {
+/// Nothing when it breaks off.
+std::optional<Tabellenmappe> Antwort_deuten(const QByteArray &Bytes) {
   Tabellenmappe mappe;
   QDataStream strom(Bytes);
   quint32 blaetter = 0, zeilen = 0, ende = 0;
@@ -144,23 +191,42 @@ Tabellenmappe Antwort_deuten(const QByteArray &Bytes) {
     mappe.Blaetter.push_back(std::move(blatt));
   }
   strom >> ende;
-  if (ende != Endemarke) return {{}, QStringLiteral("the workbook is damaged")};
+  if (ende != Endemarke) return std::nullopt;
   return mappe;
 }
 
-Tabellenmappe Geschuetzt_lesen(const QByteArray &Pfad) {
+struct Lesung {
+  Tabellenmappe Mappe;
+  bool Liegt_an_Datei;  ///< reading it again would give the same
+};
+
+Lesung Verhindert(const char *Grund) { return {{{}, QLatin1String(Grund)}, false}; }
+
+/// Whether it was the file that ended the process: not the time that a loaded machine takes, nor somebody
+/// who killed it.
+bool An_Datei_gescheitert(int Ende) {
+  if (!WIFSIGNALED(Ende)) return false;
+  const int signal = WTERMSIG(Ende);
+  return signal != SIGALRM && signal != SIGKILL && signal != SIGTERM;
+}
+
+Lesung Geschuetzt_lesen(const QByteArray &Pfad) {
   int rohr[2];
-  if (pipe2(rohr, O_CLOEXEC) != 0) return {{}, QStringLiteral("no pipe")};
+  if (pipe2(rohr, O_CLOEXEC) != 0) return Verhindert("no pipe");
   const pid_t kind = fork();
   if (kind == 0) Im_eigenen_Prozess(Pfad, rohr[1]);
   close(rohr[1]);
-  const QByteArray bytes = kind > 0 ? Antwort_holen(rohr[0]) : QByteArray();
+  std::optional<QByteArray> bytes;
+  if (kind > 0) bytes = Antwort_holen(rohr[0]);
   close(rohr[0]);
-  if (kind < 0) return {{}, QStringLiteral("no process")};
-  if (bytes.size() >= Groesste_Antwort) kill(kind, SIGKILL);
-  while (waitpid(kind, nullptr, 0) < 0 && errno == EINTR) {
+  if (kind < 0) return Verhindert("no process");
+  if (!bytes) kill(kind, SIGKILL);
+  int ende = 0;
+  while (waitpid(kind, &ende, 0) < 0 && errno == EINTR) {
   }
-  return Antwort_deuten(bytes);
+  if (!bytes) return Verhindert("the workbook takes too long");
+  if (const auto mappe = Antwort_deuten(*bytes)) return {*mappe, true};
+  return {{{}, QStringLiteral("the workbook is damaged")}, An_Datei_gescheitert(ende)};
 }
 
 /// What tells one state of a file from another.
@@ -187,11 +253,15 @@ std::shared_ptr<const Tabellenmappe> Mappe_lesen(const QString &Pfad) {
     return std::make_shared<Tabellenmappe>(Tabellenmappe{{}, QStringLiteral("no such file")});
   const Dateistand stand{pfad, angaben.st_ino, angaben.st_size, Nanosekunden(angaben.st_ctim),
                          Nanosekunden(angaben.st_mtim)};
-  if (!letzte || letzter != stand) {
-    letzte = std::make_shared<Tabellenmappe>(Geschuetzt_lesen(pfad));
+  if (letzte && letzter == stand) return letzte;
+  const Lesung lesung = Geschuetzt_lesen(pfad);
+  const auto mappe = std::make_shared<Tabellenmappe>(lesung.Mappe);
+  // What has only happened now is not kept: the next look-up may succeed.
+  if (lesung.Liegt_an_Datei) {
+    letzte = mappe;
     letzter = stand;
   }
-  return letzte;
+  return mappe;
 }
 
 }  // namespace marklink

@@ -5,6 +5,7 @@
 #include "db/Ablaufverfolgung.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
+#include "host/Texte.h"
 #include "ui/Dialoge.h"
 
 namespace marklink {
@@ -31,7 +32,7 @@ void Felder_eintragen(db::Recordset &Versand, const Versandauftrag &Auftrag,
 
 Strassenteile Strasse_zerlegen(const QString &Text) {
   const auto ist_ziffer = [](QChar z) { return z >= u'0' && z <= u'9'; };
-  const QString text = Text.toUpper();
+  const QString text = Grossbuchstaben(Text);
   qsizetype anfang = 0;
   while (anfang < text.size() && !ist_ziffer(text[anfang])) ++anfang;
   qsizetype ende = anfang;
@@ -45,7 +46,8 @@ bool Versandauftrag_erzeugen(const Versandauftrag &Auftrag) {
       Abfragen({"SELECT * FROM WebshopOrdersXTC WHERE OrderID = ", nummer, " ORDER BY OrderID, Date"});
   db::Recordset versand =
       Abfragen({"SELECT * FROM LogisticsEASYLOG WHERE OrderID = ", nummer, " ORDER BY OrderID"});
-  // A shipment without an order's data would go to nobody, and would wipe the one that is there.
+  // A shipment without an order's data would go to nobody, and would wipe the one that is there. Nothing is
+  // shown then: a box that tells success would lie.
   if (!bestellung.IsOpen() || !versand.IsOpen()) return Scheitern(Auftrag, "cannot be read");
   if (bestellung.RecordCount() < 1) return Scheitern(Auftrag, "not in the books");
 
@@ -55,7 +57,7 @@ bool Versandauftrag_erzeugen(const Versandauftrag &Auftrag) {
   bestellung.SetValue(QStringLiteral("Logistic"), Kontext.gSQL_True);
   bestellung.Update();
   versand.Update();
-  // The shipment first: an order that is marked has one.
+  // The shipment first: an order that is marked has one. One that cannot be written is traced.
   if (!versand.UpdateBatch()) return Scheitern(Auftrag, "the shipment cannot be written");
   bestellung.UpdateBatch();
   if (Auftrag.Meldung_zeigen)

@@ -1,11 +1,9 @@
-// Writing the file for the shipper's software.
+// Exporting the shipments for the shipper's software.
 #include "Versandexport.h"
 
-#include <QFile>
-#include <QFileInfo>
-
+#include "Exportdatei.h"
 #include "db/Ablaufverfolgung.h"
-#include "host/Dateien.h"
+#include "host/Dateisperre.h"
 #include "host/Datenbank.h"
 #include "host/Zahlen.h"
 #include "host/Zeichensatz.h"
@@ -31,7 +29,7 @@ namespace {
   "POOL_RECHNUNGSDATUMDHL, POOL_UNTERZEICHNERDHL, POOL_ZOLLTARIFDHL, POOL_RECHNUNGSBEMDHL, "              \
   "POOL_EXPORTARTDHL, POOL_EXPORTGRUNDDHL, POOL_HANDELSBEDINGUNGENDHL, POOL_RECHNUNGSPOSITIONENDHL"
 
-constexpr qint64 Laengste_Zeile = qint64{1024} * 1024;
+constexpr int Wartezeit_ms = 10000;  // for another export of the same file
 
 QString Einstellung(const char *Schluessel) {
   return Option_lesen(QStringLiteral("easylog"), QLatin1String(Schluessel));
@@ -40,62 +38,6 @@ QString Einstellung(const char *Schluessel) {
 void Hinweis(const QString &Text) {
   dialoge().Meldung(QStringLiteral("Hinweis"), {Text}, Symbol::Information);
 }
-
-/// The export file. One that cannot be opened takes every line without writing it.
-class Exportdatei {
- public:
-  explicit Exportdatei(const QString &Pfad) : Datei_(Pfad) {
-    const bool neu = !Datei_existiert(Pfad);
-    Kopf_noetig_ = neu && Einstellung("columnheader") == u"1";
-    const auto weise = Einstellung("appendrecords") == u"1" ? QIODevice::Append : QIODevice::Truncate;
-    // Unbuffered: a line goes out as a whole. Only into a plain file: opening anything else may wait for
-    // ever.
-    Offen_ = !Pfad.isEmpty() && (neu || QFileInfo(Pfad).isFile()) &&
-             Datei_.open(QIODevice::WriteOnly | QIODevice::Unbuffered | weise);
-    if (!Offen_) Melden();
-    Groesse_ = Datei_.size();
-  }
-
-  bool Offen() const { return Offen_; }
-  bool Kopf_noetig() const { return Kopf_noetig_; }
-
-  /// What stands behind the file's last whole line.
-  QByteArray Angefangene_Zeile() const {
-    QFile datei(Datei_.fileName());
-    if (!Offen_ || !datei.open(QIODevice::ReadOnly)) return {};
-    datei.seek(qMax(qint64(0), Groesse_ - Laengste_Zeile));
-    const QByteArray ende = datei.readAll();
-    const qsizetype zeilenende = ende.lastIndexOf("\r\n");
-    return zeilenende < 0 ? ende : ende.mid(zeilenende + 2);
-  }
-  void Kuerzen(qsizetype Bytes) {
-    if (Datei_.resize(Groesse_ - Bytes)) Groesse_ -= Bytes;
-  }
-
-  /// False, and the file as it was, when the line cannot be written whole.
-  bool Zeile_schreiben(const QByteArray &Zeile) {
-    if (Datei_.write(Zeile) == Zeile.size()) {
-      Groesse_ += Zeile.size();
-      return true;
-    }
-    Melden();
-    Datei_.resize(Groesse_);
-    return false;
-  }
-
- private:
-  void Melden() const {
-    const bool versucht = Datei_.error() != QFileDevice::NoError;
-    Ablauf_melden(
-        QStringLiteral("Versandliste_exportieren"),
-        QStringLiteral("'%1': %2")
-            .arg(Datei_.fileName(), versucht ? Datei_.errorString() : QStringLiteral("not a file")));
-  }
-
-  QFile Datei_;
-  bool Kopf_noetig_ = false, Offen_ = false;
-  qint64 Groesse_ = 0;
-};
 
 /// A weight as the list holds it, with three decimals, becomes one with two; what is no number stays.
 QString Gewicht_umschreiben(const QString &Text) {
@@ -118,7 +60,9 @@ QByteArray Zeile_bilden(const db::Recordset &Satz, const QString &Trennzeichen) 
 }
 
 /// A process that is killed may leave the beginning of a line in the file. Its shipment is still open: it is
-/// taken out of the file, and comes again as a whole.
+/// taken out of the file, and comes again as a whole. One whose shipment or delimiter was changed since is
+/// not known any more and stays, as does one that ends behind a line break within a field; a line goes out in
+/// one piece, so that both take a crash of the machine.
 void Angefangene_Zeile_entfernen(Exportdatei &Datei, db::Recordset &Satz, const QString &Trennzeichen) {
   const QByteArray rest = Datei.Angefangene_Zeile();
   if (rest.isEmpty()) return;
@@ -130,25 +74,73 @@ void Angefangene_Zeile_entfernen(Exportdatei &Datei, db::Recordset &Satz, const 
   Satz.MoveFirst();
 }
 
-void Markieren(db::Recordset &Satz) {
+bool Markieren(db::Recordset &Satz) {
   Satz.SetValue(QStringLiteral("Conveyed"), true);
   Satz.Update();
-  Satz.UpdateBatch();
+  if (Satz.UpdateBatch()) return true;
+  Ablauf_melden(QStringLiteral("Versandliste_exportieren"),
+                QStringLiteral("a shipment cannot be marked: it and those behind it stay open"));
+  return false;
 }
 
-void Zeilen_schreiben(db::Recordset &Satz, Versandexport &Ergebnis) {
-  Exportdatei datei(Ergebnis.Datei);
-  const QString trennzeichen = Einstellung("delimiter");
-  if (datei.Offen() && datei.Kopf_noetig())
-    datei.Zeile_schreiben(Mit_Zeilenende(Versandexport_Felder().join(trennzeichen)));
-  Angefangene_Zeile_entfernen(datei, Satz, trennzeichen);
+/// Ends at the first shipment that cannot be marked: its mark would go along with the next one's, without its
+/// line.
+bool Zeilen_schreiben(Exportdatei &Datei, db::Recordset &Satz, const QString &Trennzeichen,
+                      int &Geschrieben) {
+  const bool ohne_Datei = Datei.Zustand() == Exportdatei::Stand::Ohne_Datei;
   // The text of the progress window stays what it is: the export does not know the orders' numbers.
   for (int zahl = 1; !Satz.IsEOF(); Satz.MoveNext(), ++zahl) {
-    const bool geschrieben = datei.Offen() && datei.Zeile_schreiben(Zeile_bilden(Satz, trennzeichen));
-    if (geschrieben) ++Ergebnis.Geschrieben;
-    if (geschrieben || !datei.Offen()) Markieren(Satz);
+    const QByteArray zeile = Zeile_bilden(Satz, Trennzeichen);
+    if (ohne_Datei) {
+      if (!Markieren(Satz)) return false;
+    } else if (Datei.Zeile_schreiben(zeile)) {
+      if (!Markieren(Satz)) {
+        Datei.Kuerzen(zeile.size());
+        return false;
+      }
+      ++Geschrieben;
+    }
     fortschritt().Wert(zahl);
   }
+  return true;
+}
+
+void Datei_schreiben(db::Recordset &Satz, Versandexport &Ergebnis) {
+  const QString trennzeichen = Einstellung("delimiter");
+  const QByteArray kopf = Einstellung("columnheader") == u"1"
+                              ? Mit_Zeilenende(Versandexport_Felder().join(trennzeichen))
+                              : QByteArray();
+  Exportdatei datei(Ergebnis.Datei, Einstellung("appendrecords") == u"1", kopf);
+  if (datei.Zustand() == Exportdatei::Stand::Ohne_Kopf) return;
+  Angefangene_Zeile_entfernen(datei, Satz, trennzeichen);
+  Ergebnis.Markiert = Zeilen_schreiben(datei, Satz, trennzeichen, Ergebnis.Geschrieben);
+}
+
+/// Nothing is exported while somebody else does it: what he has read would go out twice. Where there can be
+/// no lock, as in a folder without write access, the marks alone have to do.
+bool Sperre_erhalten(Dateisperre &Sperre, const QString &Datei) {
+  if (Datei.isEmpty() || Sperre.Sperren(Wartezeit_ms) != Dateisperre::Stand::Belegt) return true;
+  Ablauf_melden(QStringLiteral("Versandliste_exportieren"), Datei + QStringLiteral(": another export is on"));
+  return false;
+}
+
+Versandexport Gesperrt_exportieren() {
+  const QString datei = Einstellung("file");
+  Dateisperre sperre(datei + QStringLiteral(".lock"));
+  if (!Sperre_erhalten(sperre, datei)) return {};
+  // Behind the lock: what somebody else has just exported is marked by now.
+  db::Recordset satz =
+      Abfragen("SELECT " MARKLINK_EXPORTFELDER ", Conveyed FROM LogisticsEASYLOG WHERE Conveyed = 0");
+  Versandexport ergebnis;
+  ergebnis.Gelesen = satz.IsOpen();
+  ergebnis.Versandauftraege = satz.RecordCount();
+  if (ergebnis.Versandauftraege < 1) return ergebnis;
+  ergebnis.Datei = datei;
+  fortschritt().ProgressAnzeigen(QStringLiteral("Die Versandaufträge werden exportiert..."),
+                                 ergebnis.Versandauftraege, false);
+  Datei_schreiben(satz, ergebnis);
+  fortschritt().Verbergen();
+  return ergebnis;
 }
 
 }  // namespace
@@ -159,21 +151,11 @@ const QStringList &Versandexport_Felder() {
 }
 
 Versandexport Versandliste_exportieren() {
-  db::Recordset satz =
-      Abfragen("SELECT " MARKLINK_EXPORTFELDER ", Conveyed FROM LogisticsEASYLOG WHERE Conveyed = 0");
-  Versandexport ergebnis;
-  ergebnis.Gelesen = satz.IsOpen();
-  ergebnis.Versandauftraege = satz.RecordCount();
-  if (ergebnis.Versandauftraege < 1) {
-    Hinweis(QStringLiteral("Es sind leider keine Daten für den Export nach Easylog vorhanden."));
-    return ergebnis;
-  }
-  ergebnis.Datei = Einstellung("file");
-  fortschritt().ProgressAnzeigen(QStringLiteral("Die Versandaufträge werden exportiert..."),
-                                 ergebnis.Versandauftraege, false);
-  Zeilen_schreiben(satz, ergebnis);
-  fortschritt().Verbergen();
-  Hinweis(QStringLiteral("Die Daten wurden erfolgreich exportiert."));
+  const Versandexport ergebnis = Gesperrt_exportieren();
+  // Success whatever became of the rows, on purpose; the result tells.
+  Hinweis(ergebnis.Versandauftraege < 1
+              ? QStringLiteral("Es sind leider keine Daten für den Export nach Easylog vorhanden.")
+              : QStringLiteral("Die Daten wurden erfolgreich exportiert."));
   return ergebnis;
 }
 

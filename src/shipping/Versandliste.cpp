@@ -15,6 +15,7 @@ namespace {
 
 constexpr int AUSWAHL = 0;  // the column of the mark
 constexpr int BESTELLNUMMER = 1;
+constexpr std::size_t Viele_Aenderungen = 200;
 
 int Spaltenzahl() { return int(Versandspalten().size()); }
 
@@ -55,6 +56,8 @@ bool Versandliste::Versandliste_speichern() {
   if (!Geaendert()) return true;
   db::Recordset satz = Abfragen("SELECT * FROM LogisticsEASYLOG");
   bool alles = satz.IsOpen();
+  // Each look-up in a set that is not read goes through the rows that are changed already.
+  if (Vorher_.size() > Viele_Aenderungen) satz.RecordCount();
   int letzte = -1;
   for (const auto &[stelle, vorher] : Vorher_) {
     if (stelle.first == letzte) continue;
@@ -73,6 +76,8 @@ bool Versandliste::Versandliste_speichern() {
   return alles;
 }
 
+/// A field that somebody else has changed since it was loaded keeps his value, above all the mark of an
+/// export: or the shipment would go out twice.
 void Versandliste::Zeile_schreiben(db::Recordset &Satz, int Zeile) {
   for (auto ort = Vorher_.lower_bound({Zeile, 0}); ort != Vorher_.end() && ort->first.first == Zeile; ++ort) {
     const QString &feld = Feldnamen()[size_t(ort->first.second)];

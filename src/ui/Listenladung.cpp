@@ -21,11 +21,13 @@ void Zeilen_einlesen(Zellenspeicher &Zellen, db::Recordset &Satz, const std::vec
   Kontext.gLaeuft = true;
   Zellen.Leeren();
   Zellen.Reservieren(anzahl);
+  std::vector<std::size_t> spalten;  // that the set has a field for
+  for (std::size_t spalte = 0; spalte < Felder.size(); ++spalte)
+    if (!Felder[spalte].isEmpty() && Satz.HasField(Felder[spalte])) spalten.push_back(spalte);
   for (; !Satz.IsEOF() && Kontext.gLaeuft && !Kontext.gAbbrechen; Satz.MoveNext()) {
     fortschritt().Text(Texte.Zeile.arg(Satz.Text(bestellnummer)));
     const int zeile = Zellen.Zeile_anfuegen();
-    for (std::size_t spalte = 0; spalte < Felder.size(); ++spalte) {
-      if (Felder[spalte].isEmpty()) continue;
+    for (const std::size_t spalte : spalten) {
       if (const auto text = Satz.Textbytes(Felder[spalte]))
         Zellen.Text_schreiben(zeile, static_cast<int>(spalte), *text);
       else

@@ -26,7 +26,7 @@ class clsTabelle : public QTableView {
   void Einrichten(Tabellenquelle &Quelle, std::vector<Tabellenspalte> Spalten, bool Neue_Zeile = false);
   const std::vector<Tabellenspalte> &Spalten() const;
   int Spalte_finden(const QString &Schluessel) const;  ///< -1: none
-  /// Other entries for a pick list column.
+  /// Other entries for a pick list column; with none it takes any text.
   void Auswahl_setzen(const QString &Schluessel, std::vector<QStringList> Eintraege);
 
   /// The rows are others: stands on the first one. An edit that is under way is dropped.

@@ -30,7 +30,9 @@ void clsTabellenmodell::Einrichten(Tabellenquelle &Quelle, std::vector<Tabellens
 }
 
 void clsTabellenmodell::Auswahl_setzen(int Spalte, std::vector<QStringList> Eintraege) {
-  Spalten_[size_t(Spalte)].Auswahl = std::move(Eintraege);
+  Tabellenspalte &spalte = Spalten_[size_t(Spalte)];
+  spalte.Wie = Eintraege.empty() ? Tabellenspalte::Art::Text : Tabellenspalte::Art::Auswahlliste;
+  spalte.Auswahl = std::move(Eintraege);
 }
 
 void clsTabellenmodell::Zeilenfarben_setzen(std::optional<qint32> Gerade, std::optional<qint32> Ungerade) {

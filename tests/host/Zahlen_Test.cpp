@@ -121,6 +121,7 @@ TEST(Texte_Test, kleine_Helfer) {
   EXPECT_EQ(Letzte_Position(QStringLiteral("abc"), QStringLiteral("x")), 0);
   EXPECT_EQ(Null_als_Text(QVariant()), QString());
   EXPECT_EQ(Null_als_Text(2.5), QStringLiteral("2,5"));
+  EXPECT_EQ(Grossbuchstaben(QStringLiteral("Großé µƒÿ 1")), QStringLiteral("GROßÉ µƒŸ 1"));
   // 1 + 255 + 65, then 2 + 255 + 228
   EXPECT_EQ(Text_Pruefsumme(QStringLiteral("Aä")), QStringLiteral("806"));
   EXPECT_EQ(Text_verschieben(QStringLiteral("!A")), QStringLiteral("@`"));
@@ -133,8 +134,27 @@ TEST(Zeichensatz_Test, hin_und_zurueck) {
   EXPECT_EQ(Nach_1252(Von_1252(alle), &vollstaendig), alle);
   EXPECT_TRUE(vollstaendig);
   EXPECT_EQ(QString::fromUtf8(Utf8_aus_1252(alle)), Von_1252(alle));
-  EXPECT_EQ(Nach_1252(u"a\u0141\U0001F600b", &vollstaendig), "a??b");
-  EXPECT_FALSE(vollstaendig);
+  const struct {
+    QStringView Text;
+    QByteArray Bytes;
+  } fremde[] = {
+      {u"a\U0001F600b", "a?b"},
+      {u"\u0141\u00F3d\u017A \u010C\u0151 \u0111",
+       "L\xF3"
+       "dz Co d"},
+      {u"Ja\u0308ger", "J\xE4ger"},         // an umlaut in two pieces
+      {u"x\u0323\u0302y 5\u0308", "xy 5"},  // marks that no letter of the set has
+      {u"\u0308a \u4E2D", "?a ?"},          // a mark on nothing
+      {u"Nord\u2011S\u00FC"
+       u"d",
+       "Nord-S\xFC"
+       "d"},
+      {u"\u226E \u037E \uFF0F \u2260", "? ? ? ?"},  // nothing becomes "<", ";" or "/"
+  };
+  for (const auto &[text, bytes] : fremde) {
+    EXPECT_EQ(Nach_1252(text, &vollstaendig), bytes);
+    EXPECT_FALSE(vollstaendig) << bytes.constData();
+  }
 }
 
 }  // namespace

@@ -82,7 +82,7 @@ TEST(Strasse, Number_and_what_stands_around_it) {
   } faelle[] = {{"Hauptstr. 12a", "HAUPTSTR. ", "12", "A"}, {"12 Hauptstr.", "", "12", " HAUPTSTR."},
                 {"Am Markt", "AM MARKT", "", ""},           {"Gasse 7", "GASSE ", "7", ""},
                 {"Weg 3-5 b", "WEG ", "3", "-5 B"},         {"", "", "", ""},
-                {"Königsallee 1", "KÖNIGSALLEE ", "1", ""}, {"Straße ³ 9", "STRASSE ³ ", "9", ""}};
+                {"Königsallee 1", "KÖNIGSALLEE ", "1", ""}, {"Straße ³ 9", "STRAßE ³ ", "9", ""}};
   for (const auto &fall : faelle) {
     const Strassenteile teile = Strasse_zerlegen(QString::fromUtf8(fall.Text));
     EXPECT_EQ(teile.Strasse, QString::fromUtf8(fall.Strasse)) << fall.Text;

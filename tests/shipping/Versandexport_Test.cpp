@@ -10,10 +10,13 @@
 #include <QDir>
 #include <QFile>
 #include <QSet>
+#include <optional>
 #include <random>
+#include <vector>
 
 #include "db/Verbindung.h"
 #include "host/Datenbank.h"
+#include "shipping/Exportdatei.h"
 #include "support/Dialoge_Skript.h"
 #include "support/Testmandant.h"
 
@@ -47,6 +50,27 @@ class Stumm : public Dialoge {
   bool Schirm_zeigen(const QString &) override { return false; }
 };
 
+/// As long as it lives no file grows beyond so many bytes.
+class Volle_Platte {
+ public:
+  explicit Volle_Platte(qsizetype Groesste_Datei) {
+    getrlimit(RLIMIT_FSIZE, &Vorher_);
+    rlimit eng = Vorher_;
+    eng.rlim_cur = rlim_t(Groesste_Datei);
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &eng), 0);
+  }
+  ~Volle_Platte() {
+    setrlimit(RLIMIT_FSIZE, &Vorher_);
+    signal(SIGXFSZ, Handler_);
+  }
+  Volle_Platte(const Volle_Platte &) = delete;
+  Volle_Platte &operator=(const Volle_Platte &) = delete;
+
+ private:
+  rlimit Vorher_{};
+  sighandler_t Handler_ = signal(SIGXFSZ, SIG_IGN);
+};
+
 class Versandexport_Test : public test::Mandant_Test {
  protected:
   Versandexport_Test() : Pfad(Mandant.Ordner() + u"easylog.csv"_qs) { Einstellen(";", "0", "0"); }
@@ -77,6 +101,24 @@ class Versandexport_Test : public test::Mandant_Test {
     const Versandexport ergebnis = Versandliste_exportieren();
     EXPECT_EQ(dialoge.Gezeigt.at(0).Zeilen, QStringList(QString::fromUtf8(Meldung)));
     return ergebnis;
+  }
+  /// Shipments "0000", "0001" and so on with lines of 306 bytes when the delimiter is empty.
+  static void Versandauftraege_anlegen(int Anzahl) {
+    db::Recordset rs = Abfragen("SELECT * FROM LogisticsEASYLOG");
+    for (int i = 0; i < Anzahl; ++i) {
+      rs.AddNew();
+      rs.SetValue(u"OrderID"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
+      rs.SetValue(u"POOL_REFNR"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
+      rs.SetValue(u"POOL_RECHNUNGSPOSITIONENDHL"_qs, QString(300, u'x'));
+      rs.Update();
+    }
+    ASSERT_TRUE(rs.UpdateBatch());
+  }
+  [[noreturn]] static void Im_Kind_exportieren() {
+    Stumm stumm;
+    Dialoge_setzen(&stumm);
+    Versandliste_exportieren();
+    _exit(0);
   }
   /// The orders of the shipments that are still to be exported.
   static QString Offene() {
@@ -188,15 +230,9 @@ TEST_P(Versandexport_Test, What_finds_no_room_is_left_open_and_leaves_no_half_li
   for (const char *nummer : {"1", "2", "3"})
     Versand(nummer, {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"12345678"_qs});
   Einstellen(";", "0", "1");
-  rlimit vorher{};
-  getrlimit(RLIMIT_FSIZE, &vorher);
-  const auto handler = signal(SIGXFSZ, SIG_IGN);
-  rlimit eng = vorher;
-  eng.rlim_cur = rlim_t(ANFANG + 15);
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &eng), 0);
+  std::optional<Volle_Platte> voll(ANFANG + 15);
   const Versandexport ergebnis = Exportieren();
-  setrlimit(RLIMIT_FSIZE, &vorher);
-  signal(SIGXFSZ, handler);
+  voll.reset();
   EXPECT_EQ(ergebnis.Geschrieben, 1);
   EXPECT_EQ(Datei().mid(ANFANG), QByteArray("12345678\r\n"));
   EXPECT_EQ(Offene(), u"2 3"_qs);
@@ -223,28 +259,79 @@ TEST_P(Versandexport_Test, A_line_that_was_cut_short_is_taken_out_when_appending
   }
 }
 
+TEST_P(Versandexport_Test, A_line_whose_shipment_cannot_be_marked_is_taken_back) {
+  int zurueck = 0;
+  for (int n = 1; n < 40; ++n) {
+    QFile::remove(Pfad);
+    Ausfuehren("DELETE FROM LogisticsEASYLOG");
+    for (const char *nummer : {"1", "2", "3"})
+      Versand(nummer, {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, QString::fromLatin1(nummer)});
+    Einstellen(";", "0", "1");
+    test::Dialoge_Skript dialoge;
+    dialoge.Erwarten(u"Hinweis"_qs);
+    db::Fehler_einspeisen(n);
+    const Versandexport ergebnis = Versandliste_exportieren();
+    db::Fehler_einspeisen(0);
+    SCOPED_TRACE(n);
+    const char *const rest[] = {"1 2 3", "2 3", "3", ""};
+    EXPECT_EQ(QFile::exists(Pfad) ? Datei() : "",
+              QByteArray("1\r\n2\r\n3\r\n").left(3 * ergebnis.Geschrieben));
+    EXPECT_EQ(Offene(), QString::fromLatin1(rest[ergebnis.Geschrieben]));
+    if (!ergebnis.Markiert) ++zurueck;
+  }
+  EXPECT_GE(zurueck, 3);
+}
+
+TEST_P(Versandexport_Test, A_header_comes_as_a_whole_or_not_at_all) {
+  const QByteArray kopf = QByteArray(Spalten) + "\r\n", zeile = "R1\r\n";
+  for (const char *anhaengen : {"0", "1"}) {
+    Ausfuehren("DELETE FROM LogisticsEASYLOG");
+    Versand("1", {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"R1"_qs});
+    Einstellen(";", "1", anhaengen);
+    Datei_schreiben(kopf.left(100));
+    Exportieren();
+    EXPECT_EQ(Datei(), kopf + zeile) << anhaengen;
+  }
+  QFile::remove(Pfad);
+  {
+    const Volle_Platte voll(100);
+    EXPECT_EQ(Exportdatei(Pfad, true, kopf).Zustand(), Exportdatei::Stand::Ohne_Kopf);
+  }
+  EXPECT_FALSE(QFile::exists(Pfad));  // or the next export would take it for one that has its header
+}
+
+TEST_P(Versandexport_Test, Two_exports_at_once_write_each_shipment_once) {
+  constexpr int ANZAHL = 400;
+  Versandauftraege_anlegen(ANZAHL);
+  for (const char *anhaengen : {"0", "1"}) {
+    QFile::remove(Pfad);
+    ASSERT_TRUE(Ausfuehren("UPDATE LogisticsEASYLOG SET Conveyed = 0"));
+    Einstellen("", "0", anhaengen);
+    db::Verbindungen_schliessen();
+    std::vector<pid_t> kinder;
+    for (int i = 0; i < 3; ++i) {
+      kinder.push_back(fork());
+      if (kinder.back() == 0) Im_Kind_exportieren();
+    }
+    for (const pid_t kind : kinder) waitpid(kind, nullptr, 0);
+    QSet<QByteArray> nummern;
+    for (const QByteArray &zeile : Datei().split('\n')) nummern.insert(zeile.left(4));
+    EXPECT_EQ(nummern.size(), ANZAHL + 1) << anhaengen;  // and the empty rest behind the last line
+    EXPECT_EQ(Datei().size(), 306 * ANZAHL) << anhaengen;
+    EXPECT_EQ(Offene(), QString());
+    EXPECT_FALSE(QFile::exists(Pfad + u".lock"_qs));
+  }
+}
+
 TEST_P(Versandexport_Test, A_killed_export_loses_no_shipment) {
   constexpr int ANZAHL = 400;
-  db::Recordset rs = Abfragen("SELECT * FROM LogisticsEASYLOG");
-  for (int i = 0; i < ANZAHL; ++i) {
-    rs.AddNew();
-    rs.SetValue(u"OrderID"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
-    rs.SetValue(u"POOL_REFNR"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
-    rs.SetValue(u"POOL_RECHNUNGSPOSITIONENDHL"_qs, QString(300, u'x'));
-    rs.Update();
-  }
-  ASSERT_TRUE(rs.UpdateBatch());
+  Versandauftraege_anlegen(ANZAHL);
   Einstellen("", "0", "1");
 
   const auto ausfuehren = [this](int Mikrosekunden) {
     db::Verbindungen_schliessen();  // a connection must not live on in two programs
     const pid_t kind = fork();
-    if (kind == 0) {
-      Stumm stumm;
-      Dialoge_setzen(&stumm);
-      Versandliste_exportieren();
-      _exit(0);
-    }
+    if (kind == 0) Im_Kind_exportieren();
     if (Mikrosekunden >= 0) {
       usleep(useconds_t(Mikrosekunden));
       kill(kind, SIGKILL);

@@ -1,6 +1,8 @@
 // The value workbook: what is found in it, and that one which is no workbook is an empty one.
 #include "shipping/Wertemappe.h"
 
+#include <sys/resource.h>
+
 #include <QFile>
 
 #include "support/Testmandant.h"
@@ -96,6 +98,19 @@ TEST(Wertemappe, A_damaged_workbook_does_no_harm) {
     for (const char *blatt : {"easylog_verfahren", "easylog_teilnahme", "easylog_produkte"})
       mappe.Eintraege(QLatin1String(blatt));
   }
+}
+
+TEST(Wertemappe, A_passing_failure_does_not_last) {
+  QTemporaryDir ordner;
+  const QString pfad = ordner.filePath(QStringLiteral("werte.xls"));
+  Schreiben(pfad, Inhalt());
+  rlimit vorher{};
+  getrlimit(RLIMIT_NOFILE, &vorher);
+  const rlimit eng{3, vorher.rlim_max};
+  setrlimit(RLIMIT_NOFILE, &eng);
+  EXPECT_TRUE(Wertemappe(pfad).Eintraege(QStringLiteral("easylog_verfahren")).empty());
+  setrlimit(RLIMIT_NOFILE, &vorher);
+  EXPECT_EQ(Wertemappe(pfad).Eintraege(QStringLiteral("easylog_verfahren")).size(), 3U);
 }
 
 TEST(Wertemappe, The_look_ups_read_the_workbook_of_the_context) {
