@@ -1,6 +1,7 @@
 // The printed lists of marked orders.
 #include "Auftragsdruck.h"
 
+#include "Stapellauf.h"
 #include "host/Kontext.h"
 #include "ui/Dialoge.h"
 #include "ui/Zeitraum.h"
@@ -11,11 +12,6 @@ namespace {
 using Art = Listenbericht::Art;
 
 const QString Datumsfeld = QStringLiteral("[Date]");
-
-void Ohne_Auswahl_melden(const QString &Zweck) {
-  dialoge().Meldung(QStringLiteral("Hinweis"),
-                    {QStringLiteral("Es wurden keine Aufträge ausgewählt. "), Zweck}, Symbol::Information);
-}
 
 void Vorschau_zeigen(Art Was, const Auftragsliste &Liste) {
   if (auto report = Liste_erstellen(Was, Liste)) Report_ausgeben(*report, false, true, true);
@@ -28,8 +24,7 @@ QStringList Auswahl_lesen(const Auftragsliste &Liste, bool Meldung_zeigen) {
   for (int zeile = 0; zeile < Liste.Zeilenzahl(); ++zeile)
     if (Liste.Markiert(zeile)) nummern << Liste.Zelle(zeile, "OrderID").toString();
   if (nummern.isEmpty() && Meldung_zeigen)
-    Ohne_Auswahl_melden(
-        QStringLiteral("Markieren Sie bitte alle Aufträge, für die Sie ein Beleg erstellen möchten."));
+    dialoge().Meldung(QStringLiteral("Hinweis"), Ohne_Auswahl_Belege(), Symbol::Information);
   return nummern;
 }
 
@@ -50,8 +45,9 @@ std::optional<Report> Liste_erstellen(Art Was, const Auftragsliste &Liste) {
   const QStringList nummern = Auswahl_lesen(Liste, false);
   if (nummern.isEmpty()) {
     // The transaction list speaks of the order list too, on purpose.
-    Ohne_Auswahl_melden(
-        QStringLiteral("Markieren Sie bitte alle Aufträge, die Sie in die Bestellliste übernehmen möchten."));
+    dialoge().Meldung(QStringLiteral("Hinweis"),
+                      Ohne_Auswahl(QStringLiteral("die Sie in die Bestellliste übernehmen möchten.")),
+                      Symbol::Information);
     return std::nullopt;
   }
   const auto grenze = [](Zeitraum_Modus modus) {

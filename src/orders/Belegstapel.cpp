@@ -16,9 +16,7 @@ void Belege_erzeugen(int Art, Auftragsliste &Liste, const Belegmeldung &Ergebnis
     return Liste.Zelle(Zeile, Spalte).toString();
   };
   Stapellauf lauf;
-  lauf.Ohne_Auswahl = {
-      QStringLiteral("Es wurden keine Aufträge ausgewählt. "),
-      QStringLiteral("Markieren Sie bitte alle Aufträge, für die Sie ein Beleg erstellen möchten.")};
+  lauf.Ohne_Auswahl = Ohne_Auswahl_Belege();
   lauf.Ansage = [&zelle](int Zeile) {
     return QStringLiteral("Ein Beleg für die Bestellung '%1' wird generiert...").arg(zelle(Zeile, "OrderID"));
   };

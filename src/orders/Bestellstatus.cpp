@@ -68,9 +68,7 @@ QString Positionen_der_Bestellung(const QString &Bestellnummer) {
 
 void Status_setzen(Auftragsliste &Liste, const QString &Status) {
   Stapellauf lauf;
-  lauf.Ohne_Auswahl = {
-      QStringLiteral("Es wurden keine Aufträge ausgewählt. "),
-      QStringLiteral("Markieren Sie bitte alle Aufträge, für die Sie den Status ändern möchten.")};
+  lauf.Ohne_Auswahl = Ohne_Auswahl(QStringLiteral("für die Sie den Status ändern möchten."));
   lauf.Bild = Symbol::Information;
   lauf.Immer_laden = true;
   lauf.Arbeit = [&](int zeile) {

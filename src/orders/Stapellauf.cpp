@@ -8,6 +8,15 @@
 
 namespace marklink {
 
+QStringList Ohne_Auswahl(const QString &Zweck) {
+  return {QStringLiteral("Es wurden keine Aufträge ausgewählt. "),
+          QStringLiteral("Markieren Sie bitte alle Aufträge, ") + Zweck};
+}
+
+QStringList Ohne_Auswahl_Belege() {
+  return Ohne_Auswahl(QStringLiteral("für die Sie ein Beleg erstellen möchten."));
+}
+
 void Markierte_abarbeiten(Auftragsliste &Liste, const Stapellauf &Lauf) {
   const int anzahl = Liste.Auswahl_zaehlen();
   if (anzahl == 0) {

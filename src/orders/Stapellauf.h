@@ -17,6 +17,10 @@ struct Stapellauf {
   bool Immer_laden = false;  ///< load the list again also when the progress window was closed meanwhile
 };
 
+/// The lines of the box that no order is marked, ending in what it should have been marked for.
+QStringList Ohne_Auswahl(const QString &Zweck);
+QStringList Ohne_Auswahl_Belege();
+
 /// Works the marked rows off in list order, with progress, until all are done or gAbbrechen is set; gLaeuft
 /// is set meanwhile. Then the list is loaded again.
 void Markierte_abarbeiten(Auftragsliste &Liste, const Stapellauf &Lauf);

@@ -2,6 +2,7 @@
 #include "Bandsatz.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -12,11 +13,13 @@ namespace {
 using Art = Berichtselement::Art;
 using Lage = Berichtselement::Lage;
 
-QFont Schrift(const Berichtselement &E) {
+constexpr qsizetype Stuecklaenge = 4000;  // the layout works at a text's length for each of its lines
+
+QFont Schrift(const Berichtselement &E, double Anteil = 1) {
   QFont schrift;
   schrift.setFamilies(
       {QStringLiteral("Liberation Sans"), QStringLiteral("Arial"), QStringLiteral("DejaVu Sans")});
-  schrift.setPixelSize(std::max(1, int(std::lround(E.Punkt * Twips_je_Punkt))));
+  schrift.setPixelSize(std::max(1, int(std::lround(E.Punkt * Twips_je_Punkt * Anteil))));
   schrift.setBold(E.Fett);
   schrift.setHintingPreference(QFont::PreferNoHinting);
   // A hair's breadth that keeps ligatures away: text copied out of a PDF would hold them.
@@ -35,6 +38,18 @@ QString Satztext(QString Text) {
       zeichen = u' ';
   }
   return Text;
+}
+
+/// A number keeps to one line as long as its letters can be read; what is still too long wraps.
+QFont Schrift_einpassen(const Berichtselement &E, const QString &Text, double Breite) {
+  constexpr double kleinste = 0.6;
+  const QFont schrift = Schrift(E);
+  if (E.Ausrichtung != Lage::Rechts) return schrift;
+  double laenge = 0;
+  for (const QString &zeile : Text.left(Stuecklaenge).split(QChar(QChar::LineSeparator)))
+    laenge = std::max(laenge, QFontMetricsF(schrift).horizontalAdvance(zeile));
+  constexpr double luft = 0.99;  // for the rounding of the letters' size
+  return laenge <= Breite ? schrift : Schrift(E, std::max(kleinste, Breite / laenge * luft));
 }
 
 QRectF In_Twips(const QRectF &Ort, double Streckung) {
@@ -71,20 +86,20 @@ Bandsatz::Bandsatz(const Band &B, double Streckung, const Elementtext &Text) : H
 /// Sets the element's text, which grows downwards.
 void Bandsatz::Text_setzen(Teil &T) {
   double unten = T.Ort.top();
-  for (qsizetype von = 0; von < T.Text.size();) von = Stueck_setzen(T, von, unten);
+  const QFont schrift = Schrift_einpassen(*T.Element, T.Text, T.Ort.width());
+  for (qsizetype von = 0; von < T.Text.size();) von = Stueck_setzen(T, schrift, von, unten);
   T.Ort.setBottom(std::max(T.Ort.bottom(), unten));
 }
 
-/// The layout works at a text's length for each of its lines, so it gets long ones in pieces. What stands on
+/// The layout gets long texts in pieces. What stands on
 /// the last line of a piece begins the next one, which gives the lines of the whole text. Gives where that
 /// is.
-qsizetype Bandsatz::Stueck_setzen(Teil &T, qsizetype Von, double &Unten) {
-  constexpr qsizetype laenge = 4000;
-  const bool ende = Von + laenge >= T.Text.size();
+qsizetype Bandsatz::Stueck_setzen(Teil &T, const QFont &Schrift, qsizetype Von, double &Unten) {
+  const bool ende = Von + Stuecklaenge >= T.Text.size();
   const bool zahl = T.Element->Ausrichtung == Lage::Rechts;
-  auto stueck = std::make_unique<QTextLayout>(T.Text.mid(Von, laenge), Schrift(*T.Element));
+  auto stueck = std::make_unique<QTextLayout>(T.Text.mid(Von, Stuecklaenge), Schrift);
   QTextOption form;
-  form.setWrapMode(zahl ? QTextOption::NoWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
+  form.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   stueck->setTextOption(form);
   stueck->setCacheEnabled(true);
   stueck->beginLayout();
@@ -101,7 +116,7 @@ qsizetype Bandsatz::Stueck_setzen(Teil &T, qsizetype Von, double &Unten) {
     const double oben = std::exchange(Unten, Unten + zeile.height());
     T.Zeilen.push_back({zeile, {T.Ort.left() + x, oben}, Unten});
   }
-  const qsizetype naechstes = zeilen < alle ? Von + stueck->lineAt(zeilen).textStart() : Von + laenge;
+  const qsizetype naechstes = zeilen < alle ? Von + stueck->lineAt(zeilen).textStart() : Von + Stuecklaenge;
   T.Stuecke.push_back(std::move(stueck));
   return naechstes;
 }

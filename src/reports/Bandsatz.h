@@ -44,7 +44,7 @@ class Bandsatz {
   /// The first line that ends below that place.
   static std::vector<Textzeile>::const_iterator Zeile_unter(const Teil &T, double Ort);
   static void Text_setzen(Teil &T);
-  static qsizetype Stueck_setzen(Teil &T, qsizetype Von, double &Unten);
+  static qsizetype Stueck_setzen(Teil &T, const QFont &Schrift, qsizetype Von, double &Unten);
   void Zeichnen(QPainter &Maler, const Teil &T) const;
 
   double Hoehe_ = 0;

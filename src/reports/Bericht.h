@@ -40,7 +40,7 @@ struct Berichtselement {
   Art Was = Art::Text;
   QString Name{};
   QRectF Ort{};      ///< millimetres within the band. A text wraps at its width and grows; one that stands to
-                     ///< the right is a number and stays on its line
+                     ///< the right is a number: it shrinks before it wraps
   QString Inhalt{};  ///< the text, or the name of the field that is shown or added up
   QString Format{};  ///< number picture; empty: the text as it stands
   double Punkt = 9;  ///< size of the letters

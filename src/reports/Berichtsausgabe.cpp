@@ -42,12 +42,13 @@ bool Bericht_schreiben(const Seitensatz &Satz, Exportart Art, const QString &Dat
   if (vorhanden.exists() && !vorhanden.isFile()) {
     // A pipe or a device is written to; only a file may be replaced.
     QFile datei(pfad);
-    if (datei.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && Schreiben(Satz, Art, datei)) return true;
+    // Not every format sees a device refuse what it is given.
+    if (datei.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && Schreiben(Satz, Art, datei) &&
+        datei.error() == QFileDevice::NoError)
+      return true;
     grund = datei.errorString();
   } else {
     QSaveFile datei(pfad);
-    // A folder that takes no new files may still hold one that can be written.
-    datei.setDirectWriteFallback(true);
     if (datei.open(QIODevice::WriteOnly) && Schreiben(Satz, Art, datei) && datei.flush() && datei.commit())
       return true;
     grund = datei.errorString();

@@ -19,7 +19,7 @@ bool Bericht_schreiben(const Seitensatz &Satz, Exportart Art, const QString &Dat
 bool PDF_schreiben(const Seitensatz &Satz, QIODevice &Ziel);
 /// A workbook of one sheet as XML (SpreadsheetML 2003), UTF-8: numbers and dates are such.
 bool XLS_schreiben(const Seitensatz &Satz, QIODevice &Ziel);
-/// One table on landscape paper, its headings repeated on every page.
+/// One table on the pages' paper, landscape, its headings repeated on every page.
 bool RTF_schreiben(const Seitensatz &Satz, QIODevice &Ziel);
 /// Windows-1252, a line a band, fields separated by ";" (quoted where they hold one), pages by a line with
 /// ",". Line breaks within a value become blanks.

@@ -1,5 +1,7 @@
 // Export as a document for a word processor.
 #include <QIODevice>
+#include <algorithm>
+#include <cmath>
 
 #include "Berichtsausgabe.h"
 #include "Berichtstabelle.h"
@@ -9,13 +11,22 @@ namespace {
 
 using Zeilenart = Tabellenzeile::Art;
 
-// A4, landscape, in twips: the table's columns are too many for upright paper.
-constexpr int Breite = 16838, Hoehe = 11906, Rand = 720;
+constexpr int Rand = 720;
+
+/// The pages' paper in twips, landscape: the table's columns are too many for upright paper.
+struct Papier {
+  int Breite, Hoehe;
+};
+
+Papier Papier_legen(const Seitenmasse &M) {
+  const auto twips = [](double laenge) { return std::clamp(int(std::lround(mm(laenge))), 4 * Rand, 31680); };
+  return {twips(std::max(M.Breite, M.Hoehe)), twips(std::min(M.Breite, M.Hoehe))};
+}
 
 /// Whatever the character: the document itself is ASCII.
 QByteArray Rtf_Text(const QString &Text) {
   QByteArray rtf;
-  QString text = Text;
+  QString text = Text_saeubern(Text);
   text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   for (const QChar zeichen : text) {
     const ushort nummer = zeichen.unicode();
@@ -36,13 +47,13 @@ struct Ort {
   std::vector<int> Enden;  ///< right ends of the columns
 };
 
-Ort Spalten_verteilen(const Bericht &B) {
+Ort Spalten_verteilen(const Bericht &B, int Breite) {
   Ort ort{0, {}};
   double alle = 0, bisher = 0;
   for (const int feld : Tabellenspalten(B)) alle += B.Felder[std::size_t(feld)].Anteil;
   for (const int feld : Tabellenspalten(B)) {
     bisher += B.Felder[std::size_t(feld)].Anteil;
-    ort.Enden.push_back(int((Breite - 2 * Rand) * bisher / alle));
+    ort.Enden.push_back(int(Breite * bisher / alle));
   }
   ort.Spalten = int(ort.Enden.size());
   return ort;
@@ -88,11 +99,11 @@ QByteArray Farbe(QRgb Wert) {
          QByteArray::number(qBlue(Wert)) + ';';
 }
 
-QByteArray Kopf(const Bericht &B) {
+QByteArray Kopf(const Bericht &B, const Papier &P) {
   return "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1031{\\fonttbl{\\f0\\fswiss Arial;}}\n{\\colortbl;" +
          Farbe(qRgb(0, 0, 0)) + Farbe(Detail_Format(B, 0)) + Farbe(Detail_Format(B, 1)) +
          "}\n{\\info{\\title " + Rtf_Text(B.Dokumenttitel) + "}}\n\\landscape\\paperw" +
-         QByteArray::number(Breite) + "\\paperh" + QByteArray::number(Hoehe) +
+         QByteArray::number(P.Breite) + "\\paperh" + QByteArray::number(P.Hoehe) +
          "\\margl720\\margr720\\margt720\\margb720\n" +
          "{\\footer\\pard\\qc\\f0\\fs16{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}} von "
          "{\\field{\\*\\fldinst NUMPAGES}{\\fldrslt 1}}\\par}\n\\f0\\fs16\n";
@@ -103,8 +114,9 @@ QByteArray Kopf(const Bericht &B) {
 bool RTF_schreiben(const Seitensatz &Satz, QIODevice &Ziel) {
   bool gut = true;
   const auto schreiben = [&](const QByteArray &bytes) { gut = gut && Ziel.write(bytes) == bytes.size(); };
-  const Ort ort = Spalten_verteilen(Satz.Was());
-  schreiben(Kopf(Satz.Was()));
+  const Papier papier = Papier_legen(Satz.Masse());
+  const Ort ort = Spalten_verteilen(Satz.Was(), papier.Breite - 2 * Rand);
+  schreiben(Kopf(Satz.Was(), papier));
   Tabelle_durchgehen(Satz, [&](const Tabellenzeile &zeile) { schreiben(Zeile_bilden(zeile, ort)); });
   schreiben("}\n");
   return gut;

@@ -1,5 +1,6 @@
 // Export as a workbook.
 #include <QIODevice>
+#include <QRegularExpression>
 
 #include "Berichtsausgabe.h"
 #include "Berichtstabelle.h"
@@ -73,11 +74,33 @@ QString Form(const Tabellenzeile &Zeile, const Tabellenzelle &Zelle) {
   return QLatin1String(art) + QString::number(Zeile.Zaehler & 1);
 }
 
+/// A text of several lines as one cell has it. Some readers drop the breaks, so something stands before each.
+QString Zelltext(QString Text) {
+  constexpr qsizetype hoechstens = 32767;  // more, and the whole workbook does not open
+  Text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  QString text;
+  while (!Text.isEmpty() && Text.back().isSpace()) Text.chop(1);
+  for (const QString &zeile : Text.split(u'\n')) {
+    if (!text.isEmpty() && text.back() != u'\n')
+      text += text.back().isPunct() ? QStringLiteral(" ") : QStringLiteral("; ");
+    if (!text.isEmpty()) text += u'\n';
+    text += zeile;
+  }
+  return Xml_Text(text.left(hoechstens)).replace(u'\n', QStringLiteral("&#10;"));
+}
+
+/// A sheet is named like the list, without what such a name may not hold.
+QString Blattname(QString Titel) {
+  constexpr qsizetype hoechstens = 31;
+  static const QRegularExpression verboten(QStringLiteral("[\\\\/?*\\[\\]:'\\x00-\\x1F]"));
+  Titel = Titel.replace(verboten, QStringLiteral("_")).left(hoechstens).trimmed();
+  return Xml_Text(Titel.isEmpty() ? QStringLiteral("Tabelle1") : Titel);
+}
+
 QString Zelle_bilden(const Tabellenzeile &Zeile, const Tabellenzelle &Zelle) {
   const QString wert = Maschinenform(Zelle);
   const char *art = wert.isEmpty() ? "String" : Zelle.Was == Berichtsfeld::Art::Zahl ? "Number" : "DateTime";
-  QString text = wert.isEmpty() ? Xml_Text(QString(Zelle.Text).replace(u"\r\n"_qs, u"\n"_qs)) : wert;
-  text.replace(u'\n', QStringLiteral("&#10;")).replace(u'\r', QStringLiteral("&#10;"));
+  const QString text = wert.isEmpty() ? Zelltext(Zelle.Text) : wert;
   const bool verbunden = Zelle.Breite > 1 && Zeile.Was != Zeilenart::Detail;
   return QStringLiteral("<Cell ss:Index=\"%1\"%2 ss:StyleID=\"%3\"><Data ss:Type=\"%4\">%5</Data></Cell>")
       .arg(QString::number(Zelle.Spalte + 1),
@@ -95,13 +118,15 @@ bool XLS_schreiben(const Seitensatz &Satz, QIODevice &Ziel) {
     gut = gut && Ziel.write(bytes) == bytes.size();
   };
   int kopfzeile = 0;
+  QString blatt;
   for (const Tabellenzeile &zeile : Tabellenzeilen(Satz, 0)) {
     ++kopfzeile;
+    if (zeile.Was == Zeilenart::Titel && !zeile.Zellen.empty()) blatt = zeile.Zellen.front().Text;
     if (zeile.Was == Zeilenart::Kopf) break;
   }
-  const QString titel = Xml_Text(bericht.Dokumenttitel);
   const QString nummer = QString::number(kopfzeile);
-  schreiben(QString::fromUtf8(Kopf).arg(titel, Detailformen(bericht), titel.right(31), nummer));
+  schreiben(QString::fromUtf8(Kopf).arg(Xml_Text(bericht.Dokumenttitel), Detailformen(bericht),
+                                        Blattname(blatt), nummer));
   constexpr double Tabellenbreite = 960;  // points
   double anteile = 0;
   for (const int feld : Tabellenspalten(bericht)) anteile += bericht.Felder[std::size_t(feld)].Anteil;

@@ -140,26 +140,31 @@ QString Maschinenform(const Tabellenzelle &Zelle) {
   }
   if (Zelle.Was == Berichtsfeld::Art::Datum) {
     const QDateTime tag = Datum_lesen(Zelle.Text);
-    return tag.isValid() ? tag.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz")) : QString();
+    // Spreadsheets count the days before that one differently, or not at all.
+    static const QDate erster(1900, 3, 1);
+    return tag.isValid() && tag.date() >= erster ? tag.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz"))
+                                                 : QString();
   }
   return {};
 }
 
-QString Xml_Text(const QString &Text) {
+QString Text_saeubern(const QString &Text) {
   QString rein;
   rein.reserve(Text.size());
   for (qsizetype i = 0; i < Text.size(); ++i) {
-    const QChar zeichen = Text[i];
-    if (zeichen.isHighSurrogate() && i + 1 < Text.size() && Text[i + 1].isLowSurrogate()) {
-      rein += zeichen;
-      rein += Text[++i];
-      continue;
+    char32_t zeichen = Text[i].unicode();
+    if (Text[i].isHighSurrogate() && i + 1 < Text.size() && Text[i + 1].isLowSurrogate()) {
+      zeichen = QChar::surrogateToUcs4(Text[i], Text[i + 1]);
+      ++i;
     }
-    const ushort nummer = zeichen.unicode();
-    const bool steuerzeichen = nummer < 0x20 && nummer != 0x9 && nummer != 0xA && nummer != 0xD;
-    if (!steuerzeichen && !zeichen.isSurrogate() && nummer < 0xFFFE) rein += zeichen;
+    const bool weiss = zeichen == u'\t' || zeichen == u'\n' || zeichen == u'\r';
+    const bool steuernd = QChar::category(zeichen) == QChar::Other_Control;
+    if ((weiss || !steuernd) && !QChar::isSurrogate(zeichen) && !QChar::isNonCharacter(zeichen))
+      rein += QChar::fromUcs4(zeichen);
   }
-  return rein.toHtmlEscaped();
+  return rein;
 }
+
+QString Xml_Text(const QString &Text) { return Text_saeubern(Text).toHtmlEscaped(); }
 
 }  // namespace marklink

@@ -29,10 +29,15 @@ std::vector<Tabellenzeile> Tabellenzeilen(const Seitensatz &Satz, int Seite);
 /// All pages as one table, without page feet and with one set of headings.
 void Tabelle_durchgehen(const Seitensatz &Satz, const std::function<void(const Tabellenzeile &)> &Tun);
 
-/// A number or date text in the machine's form: "1234.56", "2024-03-05T00:00:00.000"; empty when it is none.
+/// A number or date text in the machine's form: "1234.56", "2024-03-05T00:00:00.000"; empty when it is none,
+/// or a day before 01.03.1900.
 QString Maschinenform(const Tabellenzelle &Zelle);
 
-/// Without what no XML document may hold; markup is escaped.
+/// Without what no document may hold: control characters but tabs and line breaks, half surrogates, code
+/// points that are no characters.
+QString Text_saeubern(const QString &Text);
+
+/// The same with markup escaped.
 QString Xml_Text(const QString &Text);
 
 }  // namespace marklink

@@ -30,12 +30,12 @@ void Listenbericht::ActiveReport_DataInitialize(Bericht &B, Art Was) {
   B.Felder = {
       {QStringLiteral("Gruppierung")},
       {QStringLiteral("Bestellnummer"), QStringLiteral("Bestellnr."), Feldart::Text, 18},
-      {QStringLiteral("Versandart"), titel(u"Versandart"), Feldart::Text, 28},
+      {QStringLiteral("Versandart"), titel(u"Versandart"), Feldart::Text, 27},
       {QStringLiteral("Datum"), QStringLiteral("Datum"), Feldart::Datum, 20},
-      {QStringLiteral("Kunde"), QStringLiteral("Kunde"), Feldart::Text, 38},
-      {QStringLiteral("Email"), titel(u"E-Mail-Adresse"), Feldart::Text, 50},
-      {QStringLiteral("Auftragswert"), QStringLiteral("Auftragswert"), Feldart::Zahl, 22},
-      {QStringLiteral("Zahlungsart"), titel(u"Zahlungsart"), Feldart::Text, 26},
+      {QStringLiteral("Kunde"), QStringLiteral("Kunde"), Feldart::Text, 36},
+      {QStringLiteral("Email"), titel(u"E-Mail-Adresse"), Feldart::Text, 55},
+      {QStringLiteral("Auftragswert"), QStringLiteral("Auftragswert"), Feldart::Zahl, 21},
+      {QStringLiteral("Zahlungsart"), titel(u"Zahlungsart"), Feldart::Text, 25},
       {QStringLiteral("Zahlungsinformationen"), QStringLiteral("Zahlungsinformationen"), Feldart::Text, 38},
       {QStringLiteral("Hinweise"), titel(u"Hinweise des Kunden"), Feldart::Text, 36}};
   B.Gruppierung = QStringLiteral("Gruppierung");
@@ -53,8 +53,9 @@ Report Listenbericht::Report_Initialisieren(std::shared_ptr<Listenbericht> Daten
   Text_setzen(bericht, "txtAuswertungsdatum",
               QStringLiteral("Stand: ") +
                   Datum_formatieren(Kontext.gHeute.startOfDay(Qt::UTC), QStringLiteral("Long Date")));
-  Report report(std::move(bericht), std::move(Daten));
+  Report report(std::move(bericht), Daten);
   report.hyperLink = &ActiveReport_hyperLink;
+  report.ReportEnd = [daten = std::move(Daten)] { daten->ActiveReport_ReportEnd(); };
   return report;
 }
 
@@ -90,6 +91,7 @@ void Listenbericht::ActiveReport_hyperLink(const QString &Text) { Kontext.gHyper
 void Listenbericht::ActiveReport_ReportEnd() {
   Satz_ = {};
   Anzahl_ = 0;
+  Zuletzt_ = {};
 }
 
 QString Listenbericht::Feld(int Zeile, int Feld) const {

@@ -32,6 +32,7 @@ class Listenbericht final : public Berichtsdaten {
   bool ActiveReport_FetchData(QStringList &Felder) const;
   /// Keeps the text of a clicked link in the program context.
   static void ActiveReport_hyperLink(const QString &Text);
+  /// Releases the rows.
   void ActiveReport_ReportEnd();
 
   int Zeilen() const override { return Anzahl_; }

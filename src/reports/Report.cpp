@@ -18,12 +18,21 @@ Berichtsfenster &Installiert() {
 Report::Report(Bericht Was, std::shared_ptr<const Berichtsdaten> Daten)
     : Bericht_(std::move(Was)), Daten_(std::move(Daten)) {}
 
-const Seitensatz &Report::Run() {
+std::unique_ptr<Seitensatz> Report::Setzen(const Druckereinstellung &Papier) const {
   Seitenmasse masse;
-  masse.Breite = PageSettings.Querformat ? PageSettings.Papierhoehe : PageSettings.Papierbreite;
-  masse.Hoehe = PageSettings.Querformat ? PageSettings.Papierbreite : PageSettings.Papierhoehe;
-  Satz_ = std::make_unique<Seitensatz>(Bericht_, *Daten_, masse);
+  masse.Breite = Papier.Querformat ? Papier.Papierhoehe : Papier.Papierbreite;
+  masse.Hoehe = Papier.Querformat ? Papier.Papierbreite : Papier.Papierhoehe;
+  return std::make_unique<Seitensatz>(Bericht_, *Daten_, masse);
+}
+
+const Seitensatz &Report::Run() {
+  Satz_ = Setzen(PageSettings);
   return *Satz_;
+}
+
+void Report::Unload() {
+  Satz_.reset();
+  if (ReportEnd) ReportEnd();
 }
 
 void Berichtsfenster_setzen(Berichtsfenster Fenster) { Installiert() = std::move(Fenster); }
@@ -41,13 +50,16 @@ void Report_ausgeben(Report &R, bool Mit_Druckerdialog, bool Nur_Vorschau, bool 
   const bool vorschau = Nur_Vorschau || Programmoption("Preview") == u"1";
   const auto &tun = vorschau ? fenster.Show : fenster.PrintReport;
   if (tun) tun(R);
+  R.Unload();
 }
 
 bool Report_exportieren(Report &R, Exportart Art, const QString &Dateiname) {
   if (!Drucker_vorhanden()) return false;
   Vorschau_einrichten(R);
   Druckeinstellungen_setzen(R, true, true);
-  return Bericht_schreiben(R.Run(), Art, Dateiname);
+  const bool gut = Bericht_schreiben(R.Run(), Art, Dateiname);
+  R.Unload();
+  return gut;
 }
 
 }  // namespace marklink

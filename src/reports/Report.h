@@ -24,12 +24,18 @@ class Report {
   bool ColorMode = false;
   /// Stores the text of a link that was clicked in the preview; may be empty.
   std::function<void(const QString &)> hyperLink;
+  /// Lets go of the rows when the report has been shown, printed or exported; may be empty.
+  std::function<void()> ReportEnd;
 
   const Bericht &Beschreibung() const { return Bericht_; }
   /// Lays the report out for PageSettings; the pages live until the next call.
   const Seitensatz &Run();
   /// The pages as they were laid out last.
   const Seitensatz &Pages() { return Satz_ ? *Satz_ : Run(); }
+  /// Pages of their own for other paper.
+  std::unique_ptr<Seitensatz> Setzen(const Druckereinstellung &Papier) const;
+  /// The report's end: its pages and rows are gone.
+  void Unload();
 
  private:
   Bericht Bericht_;
@@ -47,11 +53,11 @@ void Berichtsfenster_setzen(Berichtsfenster Fenster);
 const Berichtsfenster &berichtsfenster();
 
 /// Shows or prints the report: the preview when `Nur_Vorschau` or by Program/Preview "1", else straight to
-/// the printer. Without a printer there is the box of Drucker_vorhanden() and nothing else.
+/// the printer; then unloads it. Without a printer there is the box of Drucker_vorhanden() and nothing else.
 void Report_ausgeben(Report &R, bool Mit_Druckerdialog, bool Nur_Vorschau, bool Einstellungen_anwenden);
 
-/// Writes the report to a file. A failing export ends without a message; false then, and without a printer,
-/// since the pages are laid out for one.
+/// Writes the report to a file and unloads it. A failing export ends without a message; false then, and
+/// without a printer, since the pages are laid out for one.
 bool Report_exportieren(Report &R, Exportart Art, const QString &Dateiname);
 
 }  // namespace marklink

@@ -182,6 +182,7 @@ void Seitensatz::Seite_setzen(Stelle &S, int Seite, const std::function<void(con
       const double schnitt = hoehe > 0 && mit_zeile && S.Naechstes != Bandart::Gruppenfuss
                                  ? Satz(S.Naechstes, S.Zeile).Schnitt(S.Versatz, platz)
                                  : hoehe;
+      if (schnitt <= S.Versatz) break;  // below a head that leaves no room: whole on the next page
       setzen(S.Naechstes, mit_zeile ? S.Zeile : -1, S.Versatz, schnitt);
       S.Versatz = schnitt;
       if (S.Versatz >= hoehe) Weiter(S);

@@ -6,6 +6,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <algorithm>
+#include <cmath>
 
 #include "db/Ablaufverfolgung.h"
 #include "frmVorschau.h"
@@ -48,6 +50,13 @@ void Drucker_vorbereiten(QPrinter &Ziel, const Report &R) {
   Ziel.setDocName(R.Beschreibung().Dokumenttitel);
 }
 
+/// The same sheet, but for the rounding of the printer's own sizes.
+bool Gleiches_Papier(const Druckereinstellung &A, const Druckereinstellung &B) {
+  constexpr double grenze = 2;  // millimetres
+  return A.Querformat == B.Querformat && std::abs(A.Papierbreite - B.Papierbreite) < grenze &&
+         std::abs(A.Papierhoehe - B.Papierhoehe) < grenze;
+}
+
 clsDrucker Geraete;
 
 }  // namespace
@@ -66,6 +75,9 @@ bool clsPrintDialog::Zeigen(QWidget *Eltern) {
   QPrinter geraet(QPrinter::HighResolution);
   Einstellung_schreiben(geraet, Aktueller_Drucker());
   QPrintDialog dialog(&geraet, Eltern);
+  // The current printer has neither.
+  dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   if (dialog.exec() != QDialog::Accepted) return false;
   Aktueller_Drucker_setzen(Einstellung_lesen(geraet));
   return true;
@@ -88,7 +100,11 @@ bool Seiten_drucken(QPrinter &Ziel, const Seitensatz &Satz, int Von, int Bis) {
   return gut;
 }
 
+Wartezeiger::Wartezeiger() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+Wartezeiger::~Wartezeiger() { QApplication::restoreOverrideCursor(); }
+
 void Report_drucken(Report &R) {
+  const Wartezeiger warten;
   QPrinter geraet(QPrinter::HighResolution);
   Drucker_vorbereiten(geraet, R);
   const Seitensatz &satz = R.Run();
@@ -96,15 +112,21 @@ void Report_drucken(Report &R) {
 }
 
 void Report_drucken_mit_Dialog(Report &R, QWidget *Eltern) {
-  const Seitensatz &satz = R.Pages();
+  const Seitensatz &gesehen = R.Pages();
   QPrinter geraet(QPrinter::HighResolution);
   Drucker_vorbereiten(geraet, R);
   QPrintDialog dialog(&geraet, Eltern);
-  dialog.setMinMax(1, satz.Seiten());
+  dialog.setMinMax(1, gesehen.Seiten());
   dialog.setOption(QAbstractPrintDialog::PrintPageRange);
   if (dialog.exec() != QDialog::Accepted) return;
+  const Wartezeiger warten;
+  // On other paper than the preview's the pages are others.
+  const Druckereinstellung gewaehlt = Einstellung_lesen(geraet);
+  const bool wie_gesehen = Gleiches_Papier(gewaehlt, R.PageSettings);
+  const auto neu = wie_gesehen ? nullptr : R.Setzen(gewaehlt);
+  const Seitensatz &satz = neu ? *neu : gesehen;
   const bool bereich = geraet.printRange() == QPrinter::PageRange && geraet.fromPage() > 0;
-  const int von = bereich ? geraet.fromPage() : 1;
+  const int von = bereich ? std::min(geraet.fromPage(), satz.Seiten()) : 1;
   Seiten_drucken(geraet, satz, von, bereich ? std::min(geraet.toPage(), satz.Seiten()) : satz.Seiten());
 }
 

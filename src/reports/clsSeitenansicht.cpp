@@ -1,10 +1,13 @@
 // One page of a report on screen.
 #include "clsSeitenansicht.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 #include "Seitensatz.h"
 
@@ -38,6 +41,16 @@ void clsSeitenansicht::Seite_zeigen(int Seite, bool Am_Ende) {
   verticalScrollBar()->setValue(Am_Ende ? verticalScrollBar()->maximum() : 0);
   viewport()->update();
   Q_EMIT Seite_geaendert(Seite_);
+}
+
+void clsSeitenansicht::Blaettern(int Richtung) {
+  constexpr int ueberlappung = 40;  // what was last read stays in sight
+  QScrollBar &leiste = *verticalScrollBar();
+  const bool am_rand = leiste.value() == (Richtung > 0 ? leiste.maximum() : 0);
+  if (!am_rand)
+    leiste.setValue(leiste.value() + Richtung * std::max(1, leiste.pageStep() - ueberlappung));
+  else if (Seite_ + Richtung >= 0 && Seite_ + Richtung < Seiten())
+    Seite_zeigen(Seite_ + Richtung, Richtung < 0);
 }
 
 // --- size
@@ -130,7 +143,7 @@ void clsSeitenansicht::paintEvent(QPaintEvent *) {
   maler.drawRect(QRect(Seitenecke(), Seitengroesse()).adjusted(-1, -1, 0, 0));
 }
 
-// --- mouse
+// --- mouse and keys
 
 QString clsSeitenansicht::Verweis_bei(QPointF Ort) const {
   return Satz_ == nullptr ? QString() : Satz_->Verweis(Seite_, (Ort - Seitenecke()) / Punkte_je_Twip());
@@ -142,24 +155,45 @@ void clsSeitenansicht::mouseMoveEvent(QMouseEvent *Ereignis) {
 }
 
 void clsSeitenansicht::mouseReleaseEvent(QMouseEvent *Ereignis) {
+  if (Ereignis->button() != Qt::LeftButton) return;
   const QString verweis = Verweis_bei(Ereignis->position());
   if (!verweis.isEmpty()) Q_EMIT Verweis_geklickt(verweis);
 }
 
-/// Past the foot of a page the wheel goes on to the next one.
+/// Fine wheels and touchpads tell of a notch in many small pieces. Gives the direction when there is a whole
+/// one.
+int clsSeitenansicht::Rasten(int Drehung) {
+  if ((Drehung > 0) != (Gedreht_ > 0)) Gedreht_ = 0;
+  Gedreht_ += Drehung;
+  if (std::abs(Gedreht_) < QWheelEvent::DefaultDeltasPerStep) return 0;
+  return std::exchange(Gedreht_, 0) > 0 ? 1 : -1;
+}
+
+/// Past the foot of a page the wheel goes on to the next one, a notch a page; what a touchpad adds when the
+/// fingers have left it turns none.
 void clsSeitenansicht::wheelEvent(QWheelEvent *Ereignis) {
   const int drehung = Ereignis->angleDelta().y();
   const QScrollBar &leiste = *verticalScrollBar();
+  const bool fuss = drehung < 0 && leiste.value() == leiste.maximum();
+  const bool kopf = drehung > 0 && leiste.value() == 0;
   if ((Ereignis->modifiers() & Qt::ControlModifier) != 0) {
-    if (drehung > 0) Groesser();
-    if (drehung < 0) Kleiner();
-  } else if (drehung < 0 && leiste.value() == leiste.maximum() && Seite_ + 1 < Seiten()) {
-    Seite_zeigen(Seite_ + 1);
-  } else if (drehung > 0 && leiste.value() == 0 && Seite_ > 0) {
-    Seite_zeigen(Seite_ - 1, true);
+    const int richtung = Rasten(drehung);
+    if (richtung > 0) Groesser();
+    if (richtung < 0) Kleiner();
+  } else if (fuss || kopf) {
+    if (Ereignis->phase() == Qt::ScrollMomentum) return;
+    if (const int richtung = Rasten(drehung); richtung != 0) Blaettern(-richtung);
   } else {
+    Gedreht_ = 0;
     QAbstractScrollArea::wheelEvent(Ereignis);
   }
+}
+
+void clsSeitenansicht::keyPressEvent(QKeyEvent *Ereignis) {
+  if (Ereignis->key() == Qt::Key_Space)
+    Blaettern((Ereignis->modifiers() & Qt::ShiftModifier) != 0 ? -1 : 1);
+  else
+    QAbstractScrollArea::keyPressEvent(Ereignis);
 }
 
 }  // namespace marklink

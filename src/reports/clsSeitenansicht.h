@@ -19,6 +19,8 @@ class clsSeitenansicht : public QAbstractScrollArea {
   int Seiten() const;
   /// Goes to the nearest page there is, to its top (or its foot).
   void Seite_zeigen(int Seite, bool Am_Ende = false);
+  /// Reads on (1) or back (-1): within the page, past its edge to the next one.
+  void Blaettern(int Richtung);
   /// 1 is the size on paper.
   double Vergroesserung() const;
   void Groesser();
@@ -35,6 +37,7 @@ class clsSeitenansicht : public QAbstractScrollArea {
   void paintEvent(QPaintEvent *Ereignis) override;
   void resizeEvent(QResizeEvent *Ereignis) override;
   void wheelEvent(QWheelEvent *Ereignis) override;
+  void keyPressEvent(QKeyEvent *Ereignis) override;
   void mouseMoveEvent(QMouseEvent *Ereignis) override;
   void mouseReleaseEvent(QMouseEvent *Ereignis) override;
 
@@ -44,11 +47,13 @@ class clsSeitenansicht : public QAbstractScrollArea {
   QSize Seitengroesse() const;
   QPoint Seitenecke() const;
   QString Verweis_bei(QPointF Ort) const;
+  int Rasten(int Drehung);
   void Vergroesserung_setzen(double Faktor);
   void Leisten_setzen();
 
   const Seitensatz *Satz_ = nullptr;
   int Seite_ = 0;
+  int Gedreht_ = 0;    ///< of the wheel's next notch
   double Faktor_ = 0;  ///< 0: as wide as the window
   QPixmap Bild_;       ///< of the current page; null when it must be drawn
 };

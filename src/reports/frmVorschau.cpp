@@ -29,8 +29,8 @@ constexpr struct {
     {"Drucken", "drucken", {"Ctrl+P"}},
     {"ZoomPlus", "zoom_plus", {"+", "Ctrl++", "Ctrl+="}},
     {"ZoomMinus", "zoom_minus", {"-", "Ctrl+-"}},
-    {"VorherigeSeite", "seite_vorherige", {"PgUp"}},
-    {"NaechsteSeite", "seite_naechste", {"PgDown"}},
+    {"VorherigeSeite", "seite_vorherige", {"Ctrl+PgUp"}},
+    {"NaechsteSeite", "seite_naechste", {"Ctrl+PgDown"}},
     {"Zurueck", "verlauf_zurueck", {"Alt+Left"}},
     {"Weiter", "verlauf_weiter", {"Alt+Right"}},
 };
@@ -64,7 +64,10 @@ frmVorschau::frmVorschau(Report &R, QWidget *Eltern)
   connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
           [] { Hilfe_zeigen(Hilfethema::Druckvorschau); });
   Symbole_zeichnen();
-  Ansicht->Satz_setzen(R.Run());
+  {
+    const Wartezeiger warten;
+    Ansicht->Satz_setzen(R.Run());
+  }
   Ansicht->setFocus();
   resize(QSize(fontMetrics().averageCharWidth() * 150, 900).boundedTo(screen()->availableSize() * 0.9));
 }
@@ -104,15 +107,17 @@ QToolBar *frmVorschau::Leiste_bauen() {
     leiste->widgetForAction(werkzeug)->setFocusPolicy(Qt::TabFocus);
     if (nummer == DRUCKEN || nummer == KLEINER || nummer == NAECHSTE) leiste->addSeparator();
   }
-  // The first and the last page have keys and no tools.
-  const std::pair<QKeySequence, std::function<int()>> enden[] = {
-      {QKeySequence(Qt::Key_Home), [] { return 0; }},
-      {QKeySequence(Qt::Key_End), [this] { return Ansicht->Seiten() - 1; }}};
-  for (const auto &[taste, ziel] : enden) {
-    auto *sprung = new QAction(this);
-    sprung->setShortcut(taste);
-    connect(sprung, &QAction::triggered, this, [this, wohin = ziel] { Gehen(wohin()); });
-    addAction(sprung);
+  // What has keys and no tools.
+  const std::pair<Qt::Key, std::function<void()>> tasten[] = {
+      {Qt::Key_Home, [this] { Gehen(0); }},
+      {Qt::Key_End, [this] { Gehen(Ansicht->Seiten() - 1); }},
+      {Qt::Key_PageUp, [this] { Ansicht->Blaettern(-1); }},
+      {Qt::Key_PageDown, [this] { Ansicht->Blaettern(1); }}};
+  for (const auto &[taste, tun] : tasten) {
+    auto *befehl = new QAction(this);
+    befehl->setShortcut(taste);
+    connect(befehl, &QAction::triggered, this, tun);
+    addAction(befehl);
   }
   return leiste;
 }

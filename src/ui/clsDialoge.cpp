@@ -66,12 +66,16 @@ Antwort Antwort_zu(int Gedrueckt, Knoepfe K) {
   return K == Knoepfe::OK ? Antwort::OK : Antwort::Abbrechen;
 }
 
-/// "Bilder|*.jpg;*.png|Alle|*.*" in Qt's form.
+/// "Bilder|*.jpg;*.png|Alle|*.*" in Qt's form; a pattern that the name has already is not said twice.
 QString Dateifilter(const QString &Filter) {
   const QStringList teile = Filter.split(u'|', Qt::SkipEmptyParts);
   QStringList liste;
-  for (qsizetype i = 0; i + 1 < teile.size(); i += 2)
-    liste << QStringLiteral("%1 (%2)").arg(teile[i], QString(teile[i + 1]).replace(u';', u' '));
+  for (qsizetype i = 0; i + 1 < teile.size(); i += 2) {
+    QString name = teile[i].trimmed();
+    const QString doppelt = u'(' + teile[i + 1] + u')';
+    if (name.endsWith(doppelt)) name = name.chopped(doppelt.size()).trimmed();
+    liste << QStringLiteral("%1 (%2)").arg(name, QString(teile[i + 1]).replace(u';', u' '));
+  }
   return liste.join(QStringLiteral(";;"));
 }
 
@@ -113,7 +117,8 @@ QString clsDialoge::Datei_speichern(const QString &Titel, const QString &Filter,
   if (!vorgabe.isDir()) dialog.selectFile(vorgabe.fileName());
   // A name without an ending gets that of the chosen kind.
   const auto endung_setzen = [&dialog](const QString &art) {
-    dialog.setDefaultSuffix(art.section(QStringLiteral("*."), -1).section(u')', 0, 0).section(u' ', 0, 0));
+    const QString endung = art.section(QStringLiteral("*."), -1).section(u')', 0, 0).section(u' ', 0, 0);
+    dialog.setDefaultSuffix(endung == u"*" ? QString() : endung);
   };
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, endung_setzen);
   endung_setzen(dialog.selectedNameFilter());

@@ -33,11 +33,11 @@ QString Laufen(const QString &Programm, const QStringList &Worte) {
 class Berichtsausgabe_Test : public testing::Test {
  protected:
   Berichtsausgabe_Test() {
-    Daten.Liste = {{u"Köln"_qs, u"Müller; Söhne"_qs, u"1.234,50"_qs, u"05.03.2024"_qs, u"erste\r\nzweite"_qs},
-                   {u"Köln"_qs, u"\"Ö\""_qs, u"-0,10"_qs, u""_qs, u"pfiffig & auffällig <b> {x} \\ 5 €"_qs},
-                   {u"Ulm"_qs, u","_qs, u"offen"_qs, u"31.12.1999"_qs,
-                    u"Zł\u0001oty \uFFFF"
-                    u"名\t=1+1"_qs}};
+    Daten.Liste = {
+        {u"Köln"_qs, u"Müller; Söhne"_qs, u"1.234,50"_qs, u"05.03.2024"_qs, u"erste\r\nzweite"_qs},
+        {u"Köln"_qs, u"\"Ö\""_qs, u"-0,10"_qs, u""_qs, u"pfiffig & auffällig <b> {x} \\ 5 €"_qs},
+        {u"Ulm"_qs, u","_qs, u"offen"_qs, u"31.12.1999"_qs,
+         u"Zł\u0001"_qs + QChar(0x85) + QChar(0xD800) + QChar(0xFDD0) + u"oty \uFFFF"_qs + u"名\t=1+1"_qs}};
     for (int i = 0; i < 60; ++i)
       Daten.Liste.push_back({u"Xanten"_qs, u"N%1"_qs.arg(i), u"1,00"_qs, u"01.01.2024"_qs, {}});
   }
@@ -83,6 +83,13 @@ TEST_F(Berichtsausgabe_Test, TXT_bleibt_Zeile_fuer_Zeile_heil) {
   EXPECT_TRUE(zeilen.contains(u"1 von %1"_qs.arg(Seiten)));
 }
 
+TEST_F(Berichtsausgabe_Test, Ein_Kopf_der_die_Seite_fuellt_verdoppelt_keine_Zeile) {
+  B[Bandart::Gruppenkopf].Hoehe = 297 - 24 - 6 - 6;
+  const QString text = QString::fromLatin1(Lesen(Schreiben(Export_TXT, "a.txt")));
+  EXPECT_EQ(text.count(u";1.234,50;"_qs), 1);
+  EXPECT_EQ(text.count(u"N0;1,00;"_qs), 1);
+}
+
 TEST_F(Berichtsausgabe_Test, HTM_ist_wohlgeformt_und_ohne_fremdes_Markup) {
   const QString text = QString::fromUtf8(Lesen(Schreiben(Export_HTM, "a.HTM")));
   EXPECT_TRUE(text.contains(u"<title>Personen &amp; Orte</title>"_qs));
@@ -99,6 +106,7 @@ TEST_F(Berichtsausgabe_Test, RTF_haelt_jede_Zeile_ganz) {
   const QByteArray rtf = Lesen(Schreiben(Export_RTF, "a.rtf"));
   EXPECT_TRUE(rtf.contains("\\{x\\} \\\\ 5 \\u8364?"));
   EXPECT_TRUE(rtf.contains("erste\\line zweite"));
+  EXPECT_TRUE(rtf.contains("Z\\u322?oty ")) << "what no document may hold is gone";
   int tiefe = 0;
   for (int i = 0; i < rtf.size(); ++i) {
     ASSERT_LT(uchar(rtf[i]), 0x80);
@@ -119,8 +127,15 @@ TEST_F(Berichtsausgabe_Test, RTF_haelt_jede_Zeile_ganz) {
 }
 
 TEST_F(Berichtsausgabe_Test, XLS_mit_Zahlen_und_Tagen_die_solche_sind) {
+  B[Bandart::Berichtskopf].Elemente[0].Inhalt = u"Personen/Orte: 'alle' <im Jahr> & danach"_qs;
+  const QString lang = QString(40'000, u'x');
+  Daten.Liste.push_back({u"Zwiesel"_qs, u"alt"_qs, u"1,00"_qs, u"28.02.1900"_qs, lang});
   const QString pfad = Schreiben(Export_XLS, "a.xls");
   const QByteArray xml = Lesen(pfad);
+  EXPECT_TRUE(xml.contains("<Worksheet ss:Name=\"Personen_Orte_ _alle_ &lt;im Jahr&gt;\">"));
+  EXPECT_TRUE(xml.contains(">erste; &#10;zweite<")) << "apart also where the break is dropped";
+  EXPECT_TRUE(xml.contains("ss:Type=\"String\">28.02.1900<")) << "before the days that spreadsheets know";
+  EXPECT_TRUE(xml.contains('>' + QByteArray(32'767, 'x') + '<')) << "more than a cell may hold";
   EXPECT_TRUE(xml.contains(">1234.5</Data>"));
   EXPECT_TRUE(xml.contains("ss:Type=\"DateTime\">2024-03-05T00:00:00.000<"));
   EXPECT_TRUE(xml.contains("ss:Type=\"String\">offen<")) << "an amount that is none stays what it says";
@@ -145,6 +160,7 @@ TEST_F(Berichtsausgabe_Test, Ein_Ziel_das_sich_nicht_schreiben_laesst_bleibt_wie
     EXPECT_FALSE(Bericht_schreiben(satz, art, Ordner.path() + u"/nicht/da/x.pdf"_qs));
     EXPECT_FALSE(Bericht_schreiben(satz, art, ordner));
     EXPECT_FALSE(Bericht_schreiben(satz, art, QString()));
+    EXPECT_FALSE(Bericht_schreiben(satz, art, u"/dev/full"_qs)) << art;
   }
 }
 

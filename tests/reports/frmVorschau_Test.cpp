@@ -10,6 +10,7 @@
 #include <QSpinBox>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include "Probebericht.h"
 #include "reports/clsPrintDialog.h"
@@ -56,12 +57,12 @@ TEST_F(frmVorschau_Test, Blaettert_durch_Taste_Werkzeug_und_Seitenzahl) {
   EXPECT_EQ(Fenster->windowTitle(), u"Personen & Orte"_qs);
   EXPECT_EQ(Kind<QLabel>(*Fenster, u"lbSeiten").text().trimmed(), u"von %1"_qs.arg(seiten));
   EXPECT_FALSE(Werkzeug(u"VorherigeSeite").isEnabled());
-  EXPECT_EQ(Taste(Qt::Key_PageDown), 2);
-  EXPECT_EQ(Taste(Qt::Key_PageDown), 3);
-  EXPECT_EQ(Taste(Qt::Key_PageUp), 2);
+  EXPECT_EQ(Taste(Qt::Key_PageDown, Qt::ControlModifier), 2);
+  EXPECT_EQ(Taste(Qt::Key_PageDown, Qt::ControlModifier), 3);
+  EXPECT_EQ(Taste(Qt::Key_PageUp, Qt::ControlModifier), 2);
   EXPECT_EQ(Taste(Qt::Key_End), seiten);
   EXPECT_FALSE(Werkzeug(u"NaechsteSeite").isEnabled());
-  EXPECT_EQ(Taste(Qt::Key_PageDown), seiten);
+  EXPECT_EQ(Taste(Qt::Key_PageDown, Qt::ControlModifier), seiten);
   Werkzeug(u"Zurueck").trigger();  // to the page that was looked at before
   EXPECT_EQ(Ansicht().Seite() + 1, 2);
   EXPECT_EQ(Taste(Qt::Key_Left, Qt::AltModifier), 3);
@@ -77,6 +78,29 @@ TEST_F(frmVorschau_Test, Blaettert_durch_Taste_Werkzeug_und_Seitenzahl) {
   QTest::keyClick(&seite, Qt::Key_Return);
   EXPECT_EQ(Ansicht().Seite() + 1, 4);
   EXPECT_TRUE(Fenster->isVisible()) << "Return in the page number does not close or print";
+}
+
+TEST_F(frmVorschau_Test, Bild_ab_und_Rad_lesen_die_ganze_Seite_bevor_die_naechste_kommt) {
+  const QScrollBar &leiste = *Ansicht().verticalScrollBar();
+  ASSERT_GT(leiste.maximum(), leiste.pageStep() / 10);
+  EXPECT_EQ(Taste(Qt::Key_PageDown), 1);
+  EXPECT_GT(leiste.value(), 0);
+  EXPECT_LT(leiste.value(), leiste.pageStep()) << "nothing is skipped";
+  while (leiste.value() < leiste.maximum()) EXPECT_EQ(Taste(Qt::Key_PageDown), 1);
+  EXPECT_EQ(Taste(Qt::Key_PageDown), 2);
+  EXPECT_EQ(leiste.value(), 0);
+  EXPECT_EQ(Taste(Qt::Key_PageUp), 1);
+  EXPECT_EQ(leiste.value(), leiste.maximum());
+  EXPECT_EQ(Taste(Qt::Key_Space), 2);
+  EXPECT_EQ(Taste(Qt::Key_Space, Qt::ShiftModifier), 1);
+  const auto drehen = [this](int um) {
+    QWheelEvent rad({100, 100}, Ansicht().viewport()->mapToGlobal(QPointF(100, 100)), {}, {0, um},
+                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(Ansicht().viewport(), &rad);
+    return Ansicht().Seite() + 1;
+  };
+  for (int i = 0; i < 7; ++i) EXPECT_EQ(drehen(-15), 1) << "not a notch yet";
+  EXPECT_EQ(drehen(-15), 2);
 }
 
 TEST_F(frmVorschau_Test, Vergroessert_und_nennt_seine_Werkzeuge) {
@@ -115,6 +139,9 @@ TEST_F(frmVorschau_Test, Passt_auf_einen_kleinen_Bildschirm_mit_grosser_Schrift)
 TEST_F(frmVorschau_Test, Ein_Klick_auf_einen_Verweis_wird_gemerkt_und_Esc_schliesst) {
   test::Bild_machen(*Fenster, u"frmVorschau"_qs);
   QWidget &flaeche = *Ansicht().viewport();
+  for (int y = 0; y < flaeche.height() && Verweis.isEmpty(); y += 4)
+    QTest::mouseClick(&flaeche, Qt::RightButton, {}, {flaeche.width() / 2 - 250, y});
+  EXPECT_EQ(Verweis, QString());
   for (int y = 0; y < flaeche.height() && Verweis.isEmpty(); y += 4)
     QTest::mouseClick(&flaeche, Qt::LeftButton, {}, {flaeche.width() / 2 - 250, y});
   EXPECT_EQ(Verweis, u"Jürgen Großmann 0"_qs);

@@ -44,17 +44,21 @@ TEST(clsDialoge_Test, Ein_Name_ohne_Endung_bekommt_die_der_gewaehlten_Art) {
       EXPECT_EQ(w.windowTitle(), u"Speichern unter"_qs);
       auto &dialog = dynamic_cast<QFileDialog &>(w);
       EXPECT_EQ(dialog.directory().path(), ordner.path());
+      EXPECT_EQ(dialog.nameFilters(), (QStringList{u"Microsoft Excel (*.xls)"_qs, u"PDF (*.pdf)"_qs,
+                                                   u"Text (*.txt)"_qs, u"Alle (*.*)"_qs}));
       dialog.selectNameFilter(dialog.nameFilters().value(art));
       Q_EMIT dialog.filterSelected(dialog.selectedNameFilter());
       dialog.findChild<QLineEdit *>(u"fileNameEdit"_qs)->setText(QString::fromUtf16(name));
       dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
     });
     return dialoge.Datei_speichern(u"Speichern unter"_qs,
-                                   u"Microsoft Excel |*.xls|PDF (*.pdf)|*.pdf|Text |*.txt"_qs, ordner.path());
+                                   u"Microsoft Excel |*.xls|PDF (*.pdf)|*.pdf|Text |*.txt|Alle|*.*"_qs,
+                                   ordner.path());
   };
   EXPECT_EQ(speichern(u"Juni", 0), ordner.path() + u"/Juni.xls"_qs);
   EXPECT_EQ(speichern(u"Juni", 1), ordner.path() + u"/Juni.pdf"_qs);
   EXPECT_EQ(speichern(u"Juni.htm", 2), ordner.path() + u"/Juni.htm"_qs);
+  EXPECT_EQ(speichern(u"Juni", 3), ordner.path() + u"/Juni"_qs);
 }
 
 }  // namespace
