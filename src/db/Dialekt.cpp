@@ -6,6 +6,7 @@
 // connection of this program registers.
 #include "Dialekt.h"
 
+#include "Gestalt.h"
 #include "Textvarianten.h"
 #include "Zerleger.h"
 
@@ -58,7 +59,6 @@ class Uebersetzer {
   void Ebene_abschliessen();
   void Sortierglied_abschliessen();
   std::size_t Klammerende(std::size_t Auf, bool &Komma) const;
-  void Gestalt_erkennen();
 
   const Ketten &K_;
   Dialekt D_;
@@ -336,30 +336,13 @@ bool Uebersetzer::Schritt() {
   return true;
 }
 
-/// SELECT list FROM name [WHERE ...] [ORDER BY ...]: rows of this table and no others.
-void Uebersetzer::Gestalt_erkennen() {
-  if (!ist(0, "SELECT") || ist(1, "DISTINCT")) return;
-  std::size_t from = 1;
-  while (from < K_.size() && !K_[from].ist("FROM")) {
-    if (K_[from].ist("(")) return;
-    ++from;
-  }
-  const Zeichenkette *name = bei(from + 1);
-  if (!name || (name->Art != Art::Wort && name->Art != Art::Klammerwort)) return;
-  const std::size_t danach = from + 2;
-  if (danach < K_.size() && !K_[danach].ist("WHERE") && !K_[danach].ist("ORDER")) return;
-  for (std::size_t i = danach; i < K_.size(); ++i) {
-    if (K_[i].ist("UNION") || K_[i].ist("GROUP")) return;
-  }
-  Aus_.Einzeltabelle = name->Art == Art::Klammerwort ? u'[' + name->Text + u']' : name->Text;
-  Aus_.Alle_Spalten = from == 2 && ist(1, "*");
-  Aus_.Ganze_Tabelle = Aus_.Alle_Spalten && danach == K_.size();
-  From_ = from;
-}
-
 std::optional<Uebersetzung> Uebersetzer::Lauf() {
   if (K_.empty()) return std::nullopt;
-  Gestalt_erkennen();
+  const Gestalt gestalt = Gestalt_lesen(K_);
+  Aus_.Einzeltabelle = gestalt.Einzeltabelle;
+  Aus_.Alle_Spalten = gestalt.Alle_Spalten;
+  Aus_.Ganze_Tabelle = gestalt.Ganze_Tabelle;
+  From_ = gestalt.From;
   while (i_ < K_.size()) {
     if (!Schritt()) return std::nullopt;
   }

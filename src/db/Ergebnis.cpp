@@ -24,7 +24,7 @@ void Spaltensatz::Namen_ordnen() {
   std::size_t groesse = 16;
   while (groesse < Felder.size() * 3) groesse *= 2;
   Tafel_.assign(groesse, -1);
-  for (std::size_t i = 0; i < Felder.size(); ++i) {
+  for (std::size_t i = 0; i < Felder_sichtbar(); ++i) {
     std::size_t platz = Name_streuen(Felder[i].Name) & (groesse - 1);
     while (Tafel_[platz] >= 0) platz = (platz + 1) & (groesse - 1);
     Tafel_[platz] = static_cast<int>(i);
@@ -38,6 +38,22 @@ int Spaltensatz::finden(QStringView Name) const {
     if (Text_gleich(Felder[static_cast<std::size_t>(Tafel_[platz])].Name, Name)) return Tafel_[platz];
   }
   return -1;
+}
+
+qint64 Schluesselnummer(const Spaltensatz &Spalten, const Zelle *Zellen) {
+  quint64 summe = 14695981039346656037u;
+  const auto streuen = [&summe](const char *Bytes, std::size_t Anzahl) {
+    for (std::size_t i = 0; i < Anzahl; ++i) summe = (summe ^ static_cast<quint8>(Bytes[i])) * 1099511628211u;
+    summe = (summe ^ Anzahl) * 1099511628211u;
+  };
+  for (const int feld : Spalten.Tabellen[0].Schluessel) {
+    const Zelle &z = Zellen[feld];
+    if (z.hat_Bytes())
+      streuen(z.Daten, z.Laenge);
+    else
+      streuen(reinterpret_cast<const char *>(&z.Ganz), sizeof z.Ganz);
+  }
+  return static_cast<qint64>(summe);
 }
 
 Feldart Feldart_aus_Deklaration(const QString &Deklaration, int &Bits) {

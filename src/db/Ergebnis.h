@@ -36,8 +36,16 @@ struct Spaltensatz {
   /// A hidden cell behind the fields that holds the engine's row number; -1 when there is none. Rows come in
   /// ascending order of it when `Ganze_Tabelle`.
   int Zeilennummer = -1;
+  /// The number is none of the engine's but made of the row's key (Schluesselnummer()): it tells rows apart
+  /// and says nothing about their order.
+  bool Nummer_aus_Schluessel = false;
   QString Ganze_Tabelle;  ///< the table's name when the statement is a plain SELECT * FROM of it
+  /// The fields behind these are the key, fetched besides, and nobody's business: no name finds them.
+  int Sichtbare = -1;  ///< -1: all
 
+  std::size_t Felder_sichtbar() const {
+    return Sichtbare < 0 ? Felder.size() : static_cast<std::size_t>(Sichtbare);
+  }
   std::size_t Zellen() const { return Felder.size() + (Zeilennummer >= 0 ? 1 : 0); }
   /// -1 when there is none. Without regard to case; the first of several.
   int finden(QStringView Name) const;
@@ -52,6 +60,9 @@ struct Ergebnis {
   std::vector<const Zelle *> Zeilen;  ///< each Spalten->Zellen() cells in `Lager`
   Speicher Lager;
 };
+
+/// A number for the row of a set of one table that holds its key.
+qint64 Schluesselnummer(const Spaltensatz &Spalten, const Zelle *Zellen);
 
 /// What a declared column type ("VARCHAR(50)", "DATETIME", ...) holds.
 Feldart Feldart_aus_Deklaration(const QString &Deklaration, int &Bits);

@@ -136,7 +136,7 @@ bool Recordset::Find(const Anweisung &Bedingung) {
 
 QStringList Recordset::Fields() const {
   QStringList namen;
-  for (const Feld &feld : d->Spalten->Felder) namen.append(feld.Name);
+  for (std::size_t i = 0; i < d->Spalten->Felder_sichtbar(); ++i) namen.append(d->Spalten->Felder[i].Name);
   return namen;
 }
 

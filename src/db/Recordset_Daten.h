@@ -100,6 +100,7 @@ struct Recordset::Daten {
   void leeren();
   void Alles_lesen();
   std::vector<int> Bekanntes_auflegen(const std::vector<Zeile> &Bekannte);
+  int Gleiche_finden(const Zeile &Z) const;
   void schliessen();
   void Sicht_fordern();
   void Sicht_bauen();

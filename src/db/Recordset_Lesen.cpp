@@ -68,8 +68,7 @@ bool Recordset::Daten::oeffnen() {
   if (ganze_Tabelle_moeglich(Sql)) {
     const auto spalten = leihe.Beschreiben(Sql);
     if (!spalten) return false;
-    // Rows known here are laid over those of the table by their numbers.
-    Gelesen = spalten->Ganze_Tabelle.isEmpty() || spalten->Zeilennummer < 0;
+    Gelesen = spalten->Ganze_Tabelle.isEmpty();
     Sicht_gilt = Gelesen;
     Spalten = spalten;
     if (!Gelesen) return true;
@@ -159,6 +158,7 @@ std::vector<int> Recordset::Daten::Bekanntes_auflegen(const std::vector<Zeile> &
     const Zeile &z = Bekannte[i];
     const bool in_Gebrauch = z.Offen || static_cast<int>(i) == Aktuell;
     if (z.Basis && nummer >= 0) neue_Nummer[i] = nach_Nummer[z.Basis[nummer].Ganz];
+    if (z.Basis && nummer < 0) neue_Nummer[i] = Gleiche_finden(z);
     if (neue_Nummer[i] < 0 && (in_Gebrauch || z.S == Zeile::Stand::Neu)) {
       neue_Nummer[i] = static_cast<int>(Zeilen.size());
       Zeilen.push_back(z);
@@ -169,6 +169,19 @@ std::vector<int> Recordset::Daten::Bekanntes_auflegen(const std::vector<Zeile> &
     }
   }
   return neue_Nummer;
+}
+
+/// The row just read that holds what `Z` was written with, for a table that numbers no rows: the last of
+/// several; -1 for none.
+int Recordset::Daten::Gleiche_finden(const Zeile &Z) const {
+  for (int i = static_cast<int>(Zeilen.size()) - 1; i >= 0; --i) {
+    const Zelle *zellen = Zeilen[static_cast<std::size_t>(i)].Basis;
+    bool gleich = zellen && zellen != Z.Basis;
+    for (std::size_t k = 0; gleich && k < Spalten->Felder.size(); ++k)
+      gleich = Z.Basis[k].Ungewiss || Z.Basis[k].gleich(zellen[k]);
+    if (gleich) return i;
+  }
+  return -1;
 }
 
 /// Lists the rows of a read-out set under the filter.
@@ -288,13 +301,24 @@ bool Recordset::Daten::Nachschlagen(const Filterausdruck &Suche, std::vector<int
     Treffer.push_back(static_cast<int>(Zeilen.size()));
     Zeilen.push_back(z);
   }
-  std::stable_sort(Treffer.begin(), Treffer.end(), [this](int a, int b) { return Ort(a) < Ort(b); });
+  std::unordered_map<qint64, qint64> folge;  // where the engine's order is all there is
+  for (std::size_t k = 0; Spalten->Nummer_aus_Schluessel && k < ergebnis.Zeilen.size(); ++k)
+    folge.emplace(ergebnis.Zeilen[k][Spalten->Zeilennummer].Ganz, static_cast<qint64>(k));
+  const auto ort = [&](int i) {
+    const qint64 nummer = Ort(i);
+    if (!Spalten->Nummer_aus_Schluessel) return nummer;
+    const auto da = folge.find(nummer);
+    return da == folge.end() ? std::numeric_limits<qint64>::max() : da->second;
+  };
+  std::stable_sort(Treffer.begin(), Treffer.end(), [&](int a, int b) { return ort(a) < ort(b); });
   return true;
 }
 
 /// Find() in an unread set. False when it cannot be answered without reading the table.
 bool Recordset::Daten::Vorwaerts_nachschlagen(const Filterausdruck &Suche) {
   std::vector<int> treffer;
+  // Which rows lie behind the current one nobody knows without their order.
+  if (Spalten->Nummer_aus_Schluessel && Aktuell >= 0) return false;
   if (Sicht_gilt || !Nachschlagbar(Suche) || !Nachschlagen(Suche, treffer)) return false;
   const int von = Aktuell;
   const auto da = std::find_if(treffer.begin(), treffer.end(), [&](int i) {

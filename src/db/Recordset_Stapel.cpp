@@ -47,7 +47,17 @@ class Stapel {
   Schreibstand loeschen(const Zeile &Z);
   QByteArray Einfuegetext(int Tabelle) const;
   QByteArray Aenderungstext(int Tabelle) const;
+  QByteArray Loeschtext() const;
   bool Bedingung(int Tabelle, QByteArray &Sql) const;
+  void Wert_anfuegen(const Zelle &Z, int Feld) {
+    Werte_.push_back(Z);
+    Wertfelder_.push_back(Feld < 0 ? nullptr : &Feld_von(Feld));
+  }
+  /// Whether a row of the table is known by nothing but all that it holds.
+  bool nur_am_Inhalt(int Tabelle) const {
+    return Tabelle_von(Tabelle).Schluessel.empty() && L_.Zeilennummer_Spalte().isEmpty();
+  }
+  void Inhalt_pruefen(const Zeile &Z, int Tabelle);
   void Bedingung_Werte(const Zeile &Z, int Tabelle);
   const Feld &Feld_von(int i) const { return S_.Felder[static_cast<std::size_t>(i)]; }
   const Basistabelle &Tabelle_von(int i) const { return S_.Tabellen[static_cast<std::size_t>(i)]; }
@@ -56,6 +66,7 @@ class Stapel {
   const Spaltensatz &S_;
   Stapeltexte &Texte_;
   std::vector<Zelle> Werte_;
+  std::vector<const Feld *> Wertfelder_;
   std::vector<int> Felder_;    ///< written by the statement
   std::vector<int> Geprueft_;  ///< whose former values it asks for
   std::vector<Nummer> Nummern_;
@@ -66,7 +77,7 @@ class Stapel {
 Schreibstand Stapel::schreiben(const QByteArray &Sql, const char *Was, int Tabelle) {
   if (!Begonnen_ && !L_.Beginnen()) return Schreibstand::Abgebrochen;
   Begonnen_ = true;
-  return L_.Schreiben(Sql, Werte_, Was, Tabelle_von(Tabelle).Name);
+  return L_.Schreiben(Sql, Werte_, Wertfelder_, Was, Tabelle_von(Tabelle).Name);
 }
 
 QByteArray Stapel::Einfuegetext(int Tabelle) const {
@@ -82,6 +93,7 @@ QByteArray Stapel::Einfuegetext(int Tabelle) const {
 Schreibstand Stapel::einfuegen(const Zeile &Z) {
   Felder_.clear();
   Werte_.clear();
+  Wertfelder_.clear();
   int tabelle = S_.Tabellen.size() == 1 ? 0 : -1;
   for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
     const Feld &feld = S_.Felder[i];
@@ -90,7 +102,7 @@ Schreibstand Stapel::einfuegen(const Zeile &Z) {
       return Schreibstand::Abgelehnt;  // no row of two tables at once
     tabelle = feld.Tabelle;
     Felder_.push_back(static_cast<int>(i));
-    Werte_.push_back(Z.Neu[i]);
+    Wert_anfuegen(Z.Neu[i], static_cast<int>(i));
   }
   if (tabelle < 0) return Schreibstand::Abgelehnt;
   const QByteArray &sql = Texte_.Text('I', tabelle, Felder_, {}, [&] { return Einfuegetext(tabelle); });
@@ -100,7 +112,8 @@ Schreibstand Stapel::einfuegen(const Zeile &Z) {
   for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
     if (S_.Felder[i].Autowert && S_.Felder[i].Tabelle == tabelle) Nummern_.push_back({&Z.Neu[i], nummer});
   }
-  if (S_.Zeilennummer >= 0) Nummern_.push_back({&Z.Neu[S_.Zeilennummer], nummer});
+  if (S_.Zeilennummer >= 0 && !S_.Nummer_aus_Schluessel)
+    Nummern_.push_back({&Z.Neu[S_.Zeilennummer], nummer});
   return stand;
 }
 
@@ -111,42 +124,56 @@ bool Stapel::Bedingung(int Tabelle, QByteArray &Sql) const {
   for (std::size_t k = 0; k < schluessel.size(); ++k) {
     Sql += (k > 0 ? " AND " : "") + Feld_von(schluessel[k]).Geklammert + " = ?";
   }
-  if (!schluessel.empty()) return true;
-  if (S_.Zeilennummer < 0) return false;
-  Sql += L_.Zeilennummer_Spalte() + " = ?";
-  return true;
+  const bool inhalt = nur_am_Inhalt(Tabelle);
+  if (schluessel.empty() && !inhalt) {
+    if (S_.Zeilennummer < 0) return false;
+    Sql += L_.Zeilennummer_Spalte() + " = ?";
+  }
+  for (std::size_t i = 0; i < Geprueft_.size(); ++i)
+    Sql += (i > 0 || !inhalt ? " AND " : "") + L_.Unveraendert(Feld_von(Geprueft_[i]));
+  return !inhalt || !Geprueft_.empty();
 }
 
 void Stapel::Bedingung_Werte(const Zeile &Z, int Tabelle) {
   const auto &schluessel = Tabelle_von(Tabelle).Schluessel;
-  for (const int feld : schluessel) Werte_.push_back(Z.Basis[feld]);
-  if (schluessel.empty()) Werte_.push_back(Z.Basis[S_.Zeilennummer]);
+  for (const int feld : schluessel) Wert_anfuegen(Z.Basis[feld], feld);
+  if (schluessel.empty() && !nur_am_Inhalt(Tabelle)) Wert_anfuegen(Z.Basis[S_.Zeilennummer], -1);
+  for (const int feld : Geprueft_) Wert_anfuegen(Z.Basis[feld], feld);
+}
+
+/// All columns that the row is known to hold have to hold the same still.
+void Stapel::Inhalt_pruefen(const Zeile &Z, int Tabelle) {
+  Geprueft_.clear();
+  for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
+    if (S_.Felder[i].Tabelle == Tabelle && !Z.Basis[i].Ungewiss) Geprueft_.push_back(static_cast<int>(i));
+  }
 }
 
 /// What somebody changed since it was read is not overwritten: the changed columns must hold what they held.
 /// Empty when nothing in the set identifies a row of the table.
 QByteArray Stapel::Aenderungstext(int Tabelle) const {
-  QByteArray sql = "UPDATE " + geklammert(Tabelle_von(Tabelle).Name) + " SET ";
+  QByteArray sql = (nur_am_Inhalt(Tabelle) ? "UPDATE TOP (1) " : "UPDATE ") +
+                   geklammert(Tabelle_von(Tabelle).Name) + " SET ";
   for (std::size_t i = 0; i < Felder_.size(); ++i) {
     sql += (i > 0 ? "," : "") + Feld_von(Felder_[i]).Geklammert + "=?";
   }
-  if (!Bedingung(Tabelle, sql)) return {};
-  for (const int i : Geprueft_) sql += " AND " + L_.Unveraendert(Feld_von(i).Geklammert);
-  return sql;
+  return Bedingung(Tabelle, sql) ? sql : QByteArray();
 }
 
 Schreibstand Stapel::Tabelle_aendern(const Zeile &Z, int Tabelle) {
   Felder_.clear();
   Geprueft_.clear();
   Werte_.clear();
+  Wertfelder_.clear();
   for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
     if (S_.Felder[i].Tabelle != Tabelle || !Z.Neu[i].Gesetzt) continue;
     if (!Z.Basis[i].Ungewiss && Z.Neu[i].gleich(Z.Basis[i])) continue;
     Felder_.push_back(static_cast<int>(i));
     if (!Z.Basis[i].Ungewiss) Geprueft_.push_back(static_cast<int>(i));
-    Werte_.push_back(Z.Neu[i]);
+    Wert_anfuegen(Z.Neu[i], static_cast<int>(i));
   }
   if (Felder_.empty()) return Schreibstand::Geschrieben;
+  if (nur_am_Inhalt(Tabelle)) Inhalt_pruefen(Z, Tabelle);
   const QByteArray &sql =
       Texte_.Text('U', Tabelle, Felder_, Geprueft_, [&] { return Aenderungstext(Tabelle); });
   if (sql.isEmpty()) {
@@ -154,7 +181,6 @@ Schreibstand Stapel::Tabelle_aendern(const Zeile &Z, int Tabelle) {
     return Schreibstand::Abgelehnt;
   }
   Bedingung_Werte(Z, Tabelle);
-  for (const int i : Geprueft_) Werte_.push_back(Z.Basis[i]);
   return schreiben(sql, "UPDATE ", Tabelle);
 }
 
@@ -167,12 +193,22 @@ Schreibstand Stapel::aendern(const Zeile &Z) {
   return Schreibstand::Geschrieben;
 }
 
+QByteArray Stapel::Loeschtext() const {
+  QByteArray sql =
+      (nur_am_Inhalt(0) ? "DELETE TOP (1) FROM " : "DELETE FROM ") + geklammert(Tabelle_von(0).Name);
+  return Bedingung(0, sql) ? sql : QByteArray();
+}
+
 Schreibstand Stapel::loeschen(const Zeile &Z) {
   // Of a joined set: from the first table.
   if (S_.Tabellen.empty()) return Schreibstand::Abgelehnt;
-  QByteArray sql = "DELETE FROM " + geklammert(Tabelle_von(0).Name);
-  if (!Bedingung(0, sql)) return Schreibstand::Abgelehnt;
+  Felder_.clear();
+  Geprueft_.clear();
   Werte_.clear();
+  Wertfelder_.clear();
+  if (nur_am_Inhalt(0)) Inhalt_pruefen(Z, 0);
+  const QByteArray sql = Loeschtext();
+  if (sql.isEmpty()) return Schreibstand::Abgelehnt;
   Bedingung_Werte(Z, 0);
   return schreiben(sql, "DELETE FROM ", 0);
 }
@@ -226,6 +262,8 @@ void Recordset::Daten::Geschriebenes_uebernehmen(Zeile &Z) {
     if (bekannt) Z.Neu[k].Ungewiss = false;
     Z.Neu[k].Gesetzt = false;
   }
+  if (Spalten->Nummer_aus_Schluessel)
+    Z.Neu[Spalten->Zeilennummer] = Zelle::aus_Ganz(Schluesselnummer(*Spalten, Z.Neu));
   Z.Basis = Z.Neu;
   Z.Neu = nullptr;
   Z.S = Zeile::Stand::Sauber;

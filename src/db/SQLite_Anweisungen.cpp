@@ -101,7 +101,8 @@ std::shared_ptr<Vorbereitet> SQLite_Anweisungen::uebersetzt_vorbereiten(const Ue
       satz->Zeilennummer = static_cast<int>(satz->Felder.size());
     }
   }
-  if (eine && U.Ganze_Tabelle) satz->Ganze_Tabelle = U.Einzeltabelle;
+  // Rows known to an unread set are laid over those of the table by their numbers.
+  if (eine && U.Ganze_Tabelle && satz->Zeilennummer >= 0) satz->Ganze_Tabelle = U.Einzeltabelle;
   v->Spalten = satz;
   return v;
 }

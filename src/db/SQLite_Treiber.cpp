@@ -86,10 +86,13 @@ class SQLite_Sitzung final : public Sitzung {
   void Verwerfen() override {
     if (sqlite3_get_autocommit(Db_) == 0) Kurz("ROLLBACK");
   }
-  Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte) override;
+  Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,
+                         const std::vector<const Feld *> &Felder) override;
   qint64 Letzte_Nummer() override { return sqlite3_last_insert_rowid(Db_); }
   QByteArray Zeilennummer_Spalte() const override { return "rowid"; }
-  QByteArray Unveraendert(const QByteArray &Spalte) const override { return Spalte + " COLLATE BINARY IS ?"; }
+  QByteArray Unveraendert(const Feld &Spalte) const override {
+    return Spalte.Geklammert + " COLLATE BINARY IS ?";
+  }
   QString Fehler() const override { return Fehler_; }
 
  private:
@@ -215,7 +218,8 @@ bool SQLite_Sitzung::Lesen(const Anweisung &Sql, Ergebnis &Ziel) {
   return gut;
 }
 
-Schreibstand SQLite_Sitzung::Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte) {
+Schreibstand SQLite_Sitzung::Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,
+                                       const std::vector<const Feld *> &) {
   const auto v = Anweisungen_.Eigener_Text(Sql);
   if (!v) {
     Fehler_ = Anweisungen_.Fehler();

@@ -39,15 +39,18 @@ class Sitzung {
   virtual bool Beginnen() = 0;      ///< a transaction that writes
   virtual bool Abschliessen() = 0;  ///< false: nothing of it was written
   virtual void Verwerfen() = 0;
-  /// Runs a writing statement with "?" for each of `Werte`, names in brackets.
-  virtual Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte) = 0;
+  /// Runs a writing statement with "?" for each of `Werte`, names in brackets. `Felder` are the columns that
+  /// they are for; nullptr for a row number.
+  virtual Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,
+                                 const std::vector<const Feld *> &Felder) = 0;
   /// The number that the engine gave to the row inserted last.
   virtual qint64 Letzte_Nummer() = 0;
-  /// The column that identifies a row of a table without a key, in brackets; empty when the engine has none.
+  /// The column that identifies a row of a table without a key, in brackets; empty when the engine has none,
+  /// and a row is known by all that it holds ("TOP (1)" then keeps its twins out).
   virtual QByteArray Zeilennummer_Spalte() const = 0;
   /// A condition with one "?": the column still holds exactly the value read from it, null and the case of
   /// letters included.
-  virtual QByteArray Unveraendert(const QByteArray &Spalte) const = 0;
+  virtual QByteArray Unveraendert(const Feld &Spalte) const = 0;
 
   virtual QString Fehler() const = 0;
 };
@@ -62,6 +65,7 @@ class Treiber {
 Treiber *Treiber_waehlen(const QString &Anbieter);
 
 Treiber &SQLite_Treiber();
+Treiber &ODBC_Treiber();
 
 /// The file of an embedded database.
 QString SQLite_Datei(const Verbindungsdaten &Daten);

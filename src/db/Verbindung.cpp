@@ -30,6 +30,9 @@ Verbindungsdaten Verbindung_lesen(const QString &Verbindung) {
 
 Treiber *Treiber_waehlen(const QString &Anbieter) {
   if (Anbieter.compare(QLatin1String("SQLite"), Qt::CaseInsensitive) == 0) return &SQLite_Treiber();
+  for (const char *name : {"SQLOLEDB", "SQLNCLI", "MSOLEDBSQL", "MSDASQL", "ODBC", "FreeTDS"}) {
+    if (Anbieter.startsWith(QLatin1String(name), Qt::CaseInsensitive)) return &ODBC_Treiber();
+  }
   return nullptr;
 }
 

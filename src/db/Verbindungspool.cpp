@@ -139,14 +139,15 @@ void Leihe::Verwerfen() {
   Sitzung_->Verwerfen();
 }
 
-Schreibstand Leihe::Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte, const char *Was,
+Schreibstand Leihe::Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,
+                              const std::vector<const Feld *> &Felder, const char *Was,
                               const QString &Tabelle) {
   if (wird_beobachtet()) Beobachtet(QLatin1String(Was) + Tabelle);
   if (!Aufruf_erlaubt()) {
     Ablauf_melden(QLatin1String(Was) + Tabelle, QStringLiteral("injected failure"));
     return Schreibstand::Abgelehnt;
   }
-  const Schreibstand stand = Sitzung_->Schreiben(Sql, Werte);
+  const Schreibstand stand = Sitzung_->Schreiben(Sql, Werte, Felder);
   if (stand == Schreibstand::Keine_Zeile) {
     Ablauf_melden(QLatin1String(Was) + Tabelle, QStringLiteral("the row is gone or was changed meanwhile"));
   } else if (stand != Schreibstand::Geschrieben) {

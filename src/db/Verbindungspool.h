@@ -26,11 +26,11 @@ class Leihe {
   bool Abschliessen();
   void Verwerfen();
   /// Observed as `Was` and `Tabelle` together: "INSERT INTO T", "UPDATE T" or "DELETE FROM T".
-  Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte, const char *Was,
-                         const QString &Tabelle);
+  Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,
+                         const std::vector<const Feld *> &Felder, const char *Was, const QString &Tabelle);
   qint64 Letzte_Nummer() { return Sitzung_->Letzte_Nummer(); }
   QByteArray Zeilennummer_Spalte() const { return Sitzung_->Zeilennummer_Spalte(); }
-  QByteArray Unveraendert(const QByteArray &Spalte) const { return Sitzung_->Unveraendert(Spalte); }
+  QByteArray Unveraendert(const Feld &Spalte) const { return Sitzung_->Unveraendert(Spalte); }
 
  private:
   bool Erlaubt(const Anweisung &Sql, const char *Stelle);

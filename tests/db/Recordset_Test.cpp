@@ -9,7 +9,7 @@ namespace marklink::test {
 namespace {
 
 using namespace db;
-MARKLINK_BEIDE_DIALEKTE(Recordset_Test);
+MARKLINK_ALLE_BETRIEBSARTEN(Recordset_Test);
 
 TEST_P(Recordset_Test, Felder_kommen_zurueck_wie_sie_gesetzt_wurden) {
   Recordset r = offen("SELECT * FROM Orders");
@@ -115,7 +115,7 @@ TEST_P(Recordset_Test, wandert_wie_ein_Zeiger) {
 }
 
 TEST_P(Recordset_Test, filtert_ohne_Gross_und_Klein_und_mit_Und_und_Oder) {
-  Rohe_Verbindung(datei).lauf(
+  roh_lauf(
       "INSERT INTO Orders (OrderID, Customer, Amount, Count, Date, Invoice) VALUES"
       "('1','Müller',10,1,'2024-01-31 00:00:00',-1),('2','MÜLLER',20,2,'2024-02-01 12:00:00',0),"
       "('3','Maier',30,3,NULL,1),('4',NULL,40,NULL,NULL,0)");
@@ -149,6 +149,7 @@ TEST_P(Recordset_Test, filtert_ohne_Gross_und_Klein_und_mit_Und_und_Oder) {
       EXPECT_TRUE(r->Filter(text)) << z.Filter;
       QStringList treffer;
       for (; !r->IsEOF(); r->MoveNext()) treffer.append(r->Text(T("OrderID")));
+      if (ueber_Leitung()) treffer.sort();  // a look-up on the server promises no order
       EXPECT_EQ(treffer.join(u','), T(z.Treffer)) << z.Filter;
       EXPECT_EQ(r->RecordCount(), treffer.size()) << z.Filter;
     }
@@ -239,7 +240,10 @@ TEST_P(Recordset_Test, sucht_vorwaerts_und_bleibt_in_der_Ordnung_der_Tabelle) {
     EXPECT_TRUE(r.Find("OrderID = 'A3'"));  // itself included
     EXPECT_EQ(r.Number(T("Amount")), 1000);
     EXPECT_TRUE(r.Find("OrderID = 'A5'"));
-    EXPECT_FALSE(gesehen.contains(T("SELECT * FROM Orders")));
+    // What lies behind the current row the server does not tell.
+    if (!ueber_Leitung()) {
+      EXPECT_FALSE(gesehen.contains(T("SELECT * FROM Orders")));
+    }
     EXPECT_EQ(r.AbsolutePosition(), 5);
     EXPECT_FALSE(r.Find("OrderID = 'A1'"));  // lies behind
     EXPECT_TRUE(r.IsEOF());
@@ -346,9 +350,18 @@ TEST_P(Recordset_Test, ein_gescheitertes_Nachschlagen_liest_ganz_oder_schliesst)
   r.SetValue(T("OrderID"), T("B1"));
   qputenv("MARKLINK_TRACE", "1");
   testing::internal::CaptureStderr();
-  ASSERT_TRUE(QFile::rename(datei, datei + T(".weg")));
+  if (ueber_Leitung()) {
+    Fehler_einspeisen(1);
+    Beobachter_setzen([](const QString &) { Fehler_einspeisen(1); });
+  } else {
+    ASSERT_TRUE(QFile::rename(datei, datei + T(".weg")));
+  }
   EXPECT_FALSE(r.Filter("OrderID = 'A2'"));
-  ASSERT_TRUE(QFile::rename(datei + T(".weg"), datei));
+  Beobachter_setzen({});
+  Fehler_einspeisen(0);
+  if (!ueber_Leitung()) {
+    ASSERT_TRUE(QFile::rename(datei + T(".weg"), datei));
+  }
   r.Filter("OrderID = 'A2'");
   EXPECT_TRUE(r.IsNull(T("OrderID")));
   const std::string spur = testing::internal::GetCapturedStderr();
@@ -434,7 +447,7 @@ TEST_P(Recordset_Test, Aussagen_ueber_Wahr_Null_und_Datum_finden_ihre_Zeilen) {
 }
 
 TEST_P(Recordset_Test, Abfragen_kennen_Umlaute) {
-  Rohe_Verbindung(datei).lauf(
+  roh_lauf(
       "INSERT INTO Orders (OrderID, Customer) VALUES "
       "('1','Zoo'),('2','ÄPFEL'),('3','apfel'),('4','äöüéè'),('5','Birne')");
   EXPECT_EQ(anzahl({"SELECT * FROM Orders WHERE Customer = ", Wert{T("äpfel")}}), 1);
@@ -479,6 +492,7 @@ TEST_P(Recordset_Test, eine_Sicht_wird_gelesen_wie_eine_Tabelle) {
   EXPECT_EQ(r.RecordCount(), 1);
   r.ClearFilter();
   EXPECT_EQ(r.RecordCount(), 2);
+  if (ueber_Leitung()) return;  // the stand-in's views take no changes
   r.SetValue(T("Notes"), T("groß"));
   EXPECT_TRUE(r.UpdateBatch());
   EXPECT_EQ(roh("SELECT Notes FROM Orders WHERE OrderID = 'A2'"), T("groß"));

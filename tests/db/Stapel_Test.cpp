@@ -11,7 +11,7 @@ namespace {
 
 using namespace db;
 class Stapel_Test : public Recordset_Test {};
-MARKLINK_BEIDE_DIALEKTE(Stapel_Test);
+MARKLINK_ALLE_BETRIEBSARTEN(Stapel_Test);
 
 TEST_P(Stapel_Test, schreibt_nur_geaenderte_Spalten) {
   fuellen(2);
@@ -89,6 +89,7 @@ TEST_P(Stapel_Test, ueberschreibt_nicht_was_ein_anderer_inzwischen_geaendert_hat
 // What the engine stores differs from what was sent: numbers of another kind, texts that become numbers,
 // defaults. None of it is somebody else's change.
 TEST_P(Stapel_Test, aendert_seine_eigenen_Zeilen_immer_wieder) {
+  if (ueber_Leitung()) GTEST_SKIP() << "column types that a server does not know";
   ASSERT_TRUE(Rohe_Verbindung(datei).lauf(
       "CREATE TABLE Odd (ID INTEGER PRIMARY KEY AUTOINCREMENT, N NUMERIC, R DOUBLE, I INTEGER, F FOO, "
       "D DATETIME, T VARCHAR(9) COLLATE NOCASE, E VARCHAR(9) DEFAULT 'e', B BOOLEAN DEFAULT 0, P BLOB)"));
@@ -170,7 +171,8 @@ TEST_P(Stapel_Test, Tabellen_ohne_Schluessel_und_Mengen_ohne_ihn) {
     r.SetValue(T("Value"), r.Text(T("Value")) + u'x');
     EXPECT_TRUE(r.UpdateBatch());
   }
-  EXPECT_EQ(roh("SELECT * FROM Options"), T("a|k|1\na|k|1xx"));
+  // A server numbers no rows: of twins it takes either, but one only.
+  EXPECT_EQ(roh("SELECT * FROM Options"), ueber_Leitung() ? T("a|k|1x\na|k|1x") : T("a|k|1\na|k|1xx"));
   fuellen(1);
   Recordset r = offen("SELECT Notes FROM Orders WHERE OrderID = 'A1'");
   EXPECT_EQ(r.Fields(), QStringList{T("Notes")});

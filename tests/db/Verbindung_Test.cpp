@@ -24,6 +24,9 @@ class Verbindung_Test : public Recordset_Test {
   }
 };
 MARKLINK_BEIDE_DIALEKTE(Verbindung_Test);
+/// What holds on a server, too.
+class Menge_Test : public Verbindung_Test {};
+MARKLINK_ALLE_BETRIEBSARTEN(Menge_Test);
 
 TEST(Verbindung, liest_beide_Formen) {
   const Verbindungsdaten jet =
@@ -57,7 +60,7 @@ TEST_P(Verbindung_Test, die_Datei_gehoert_auch_anderen_Programmen) {
   EXPECT_EQ(andere.lesen("SELECT count(*) FROM sqlite_master WHERE sql LIKE '%MARKLINK%'"), T("0"));
 }
 
-TEST_P(Verbindung_Test, mehrere_Mengen_stehen_zugleich) {
+TEST_P(Menge_Test, mehrere_Mengen_stehen_zugleich) {
   fuellen(3);
   Recordset aussen = offen("SELECT * FROM Orders ORDER BY OrderID");
   QString folge;
@@ -165,7 +168,7 @@ TEST_P(Verbindung_Test, ohne_Schreibrecht_liest_es_trotzdem) {
 }
 
 // Staging one by one: neither time nor memory grows with the table, and the table is never read.
-TEST_P(Verbindung_Test, einzelnes_Ablegen_waechst_nicht_mit_der_Tabelle) {
+TEST_P(Menge_Test, einzelnes_Ablegen_waechst_nicht_mit_der_Tabelle) {
   Rohe_Verbindung(datei).lauf(
       "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 50000) "
       "INSERT INTO Orders (OrderID, Customer) SELECT 'V' || i, 'Kunde ' || i FROM n");
@@ -190,7 +193,7 @@ TEST_P(Verbindung_Test, einzelnes_Ablegen_waechst_nicht_mit_der_Tabelle) {
   EXPECT_EQ(roh("SELECT count(*), count(Notes) FROM Orders"), T("50500|1000"));
 }
 
-TEST_P(Verbindung_Test, ein_Filter_in_einer_Schleife_laeuft_die_Menge_nicht_ab) {
+TEST_P(Menge_Test, ein_Filter_in_einer_Schleife_laeuft_die_Menge_nicht_ab) {
   Rohe_Verbindung(datei).lauf(
       "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 50000) "
       "INSERT INTO Orders (OrderID, Notes, Colour) SELECT 'V' || i, 'Hinweis ' || i, i FROM n");

@@ -72,7 +72,7 @@ TEST_P(Programmstart_Test, Einstellungen_stehen_im_eigenen_Speicher) {
   EXPECT_EQ(lesen("language"), QStringLiteral("5"));
   EXPECT_EQ(lesen("fehlt"), QString());
   EXPECT_EQ(lesen("x' OR 'a' = 'a"), QString());
-  const auto zeilen = Abfragen("SELECT * FROM Options WHERE Key = 'language'").RecordCount();
+  const auto zeilen = Abfragen("SELECT * FROM Options WHERE [Key] = 'language'").RecordCount();
   EXPECT_EQ(zeilen, Mandant.Typ() == 0 ? 0 : 1);
   EXPECT_EQ(QFile::exists(Mandant.Ordner() + QStringLiteral("Test.afk")), Mandant.Typ() == 0);
   Mandant.Starten();

@@ -1,7 +1,8 @@
-// A database in a temporary folder, in either dialect: derive a fixture, hand it tables, run it over both.
+// A database in a temporary folder, in either dialect: derive a fixture, hand it tables, run it over both,
+// and over the wire: the second dialect on the stand-in for SQL Server, whose database file is the same.
 //
 //   class Bestellungen_Test : public Datenbank_Test {};
-//   MARKLINK_BEIDE_DIALEKTE(Bestellungen_Test);
+//   MARKLINK_BEIDE_DIALEKTE(Bestellungen_Test);  // or MARKLINK_ALLE_BETRIEBSARTEN
 //   TEST_P(Bestellungen_Test, ...) { anlegen({...}); ... }
 #pragma once
 
@@ -16,6 +17,7 @@
 #include "db/DDL.h"
 #include "db/Recordset.h"
 #include "db/Verbindung.h"
+#include "support/SqlServer_Attrappe.h"
 
 /// How a failed comparison shows a text.
 inline void PrintTo(const QString &Text, std::ostream *Strom) { *Strom << '"' << Text.toStdString() << '"'; }
@@ -53,16 +55,21 @@ class Rohe_Verbindung {
   sqlite3 *Db_ = nullptr;
 };
 
-class Datenbank_Test : public testing::TestWithParam<db::Dialekt> {
+enum class Betriebsart { Jet, SqlServer, Leitung };
+
+class Datenbank_Test : public testing::TestWithParam<Betriebsart> {
  protected:
   Datenbank_Test() {
     datei = ordner.path() + QStringLiteral("/demo.mdb");
-    verbindung =
-        GetParam() == db::Dialekt::Jet
-            ? QStringLiteral("Provider=SQLite;Data Source=") + datei +
-                  QStringLiteral(";Jet OLEDB:Database Password=481902")
-            : QStringLiteral("Provider=SQLite;Data Source=") + ordner.path() +
-                  QStringLiteral(";Initial Catalog=demo;Integrated Security=SSPI;Connect Timeout=30");
+    if (GetParam() == Betriebsart::Jet)
+      verbindung = QStringLiteral("Provider=SQLite;Data Source=") + datei +
+                   QStringLiteral(";Jet OLEDB:Database Password=481902");
+    if (GetParam() == Betriebsart::SqlServer)
+      verbindung = QStringLiteral("Provider=SQLite;Data Source=") + ordner.path() +
+                   QStringLiteral(";Initial Catalog=demo;Integrated Security=SSPI;Connect Timeout=30");
+    if (GetParam() != Betriebsart::Leitung) return;
+    server = std::make_unique<SqlServer_Attrappe>(datei);
+    verbindung = server->Verbindungstext();
   }
   ~Datenbank_Test() override {
     db::Beobachter_setzen({});
@@ -73,8 +80,14 @@ class Datenbank_Test : public testing::TestWithParam<db::Dialekt> {
   void anlegen(const std::vector<db::Tabelle> &Tabellen) {
     ASSERT_TRUE(db::Datenbank_anlegen_mit(Tabellen, verbindung));
   }
-  bool jet() const { return GetParam() == db::Dialekt::Jet; }
+  bool jet() const { return GetParam() == Betriebsart::Jet; }
+  bool ueber_Leitung() const { return server != nullptr; }
   db::Zahl wahr() const { return db::Zahl(jet() ? -1 : 1); }
+  /// As another program would; on the server, whose indexes no other engine may touch, by a statement.
+  bool roh_lauf(const char *Sql) {
+    if (!ueber_Leitung()) return Rohe_Verbindung(datei).lauf(Sql);
+    return db::Ausfuehren(db::Anweisung(db::Teiltext{QString::fromUtf8(Sql)}, ""), verbindung);
+  }
   QString roh(const char *Sql) { return Rohe_Verbindung(datei).lesen(Sql); }
   /// Collects every observed statement from now on.
   void beobachten() {
@@ -83,13 +96,26 @@ class Datenbank_Test : public testing::TestWithParam<db::Dialekt> {
   }
 
   QTemporaryDir ordner;
+  std::unique_ptr<SqlServer_Attrappe> server;  ///< over the wire only
   QString datei, verbindung;
   QStringList gesehen;
 };
 
-#define MARKLINK_BEIDE_DIALEKTE(Klasse)                                                               \
-  INSTANTIATE_TEST_SUITE_P(                                                                           \
-      Dialekt, Klasse, testing::Values(marklink::db::Dialekt::Jet, marklink::db::Dialekt::SqlServer), \
-      [](const auto &Info) { return Info.param == marklink::db::Dialekt::Jet ? "Jet" : "SqlServer"; })
+inline std::string Betriebsname(const testing::TestParamInfo<Betriebsart> &Info) {
+  const char *namen[] = {"Jet", "SqlServer", "Leitung"};
+  return namen[static_cast<int>(Info.param)];
+}
+
+#define MARKLINK_BEIDE_DIALEKTE(Klasse)                                                          \
+  INSTANTIATE_TEST_SUITE_P(                                                                      \
+      Dialekt, Klasse,                                                                           \
+      testing::Values(marklink::test::Betriebsart::Jet, marklink::test::Betriebsart::SqlServer), \
+      marklink::test::Betriebsname)
+#define MARKLINK_ALLE_BETRIEBSARTEN(Klasse)                                                     \
+  INSTANTIATE_TEST_SUITE_P(                                                                     \
+      Dialekt, Klasse,                                                                          \
+      testing::Values(marklink::test::Betriebsart::Jet, marklink::test::Betriebsart::SqlServer, \
+                      marklink::test::Betriebsart::Leitung),                                    \
+      marklink::test::Betriebsname)
 
 }  // namespace marklink::test

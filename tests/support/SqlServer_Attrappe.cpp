@@ -35,6 +35,15 @@ SqlServer_Attrappe::~SqlServer_Attrappe() {
   if (Prozess_ > 0) ::waitpid(Prozess_, nullptr, 0);
 }
 
+QString SqlServer_Attrappe::Verbindungstext(const QString &Kennwort, int Wartezeit) const {
+  return QStringLiteral(
+             "Provider=SQLOLEDB.1;User ID=sa;Password=%1;Initial Catalog=demo;Data Source=127.0.0.1,%2;"
+             "Persist Security Info=False;Connect Timeout=%3")
+      .arg(Kennwort)
+      .arg(Port_)
+      .arg(Wartezeit);
+}
+
 QByteArray SqlServer_Attrappe::Zeile_lesen() const {
   QByteArray zeile;
   char c = 0;

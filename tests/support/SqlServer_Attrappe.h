@@ -17,6 +17,8 @@ class SqlServer_Attrappe {
   SqlServer_Attrappe &operator=(const SqlServer_Attrappe &) = delete;
 
   int Port() const { return Port_; }
+  /// For the library, catalogue "demo".
+  QString Verbindungstext(const QString &Kennwort = QStringLiteral("geheim"), int Wartezeit = 5) const;
   /// The commands of tests/tds/main.cpp and the names of tests/tds/Stoerung.h.
   void Stellen(const QByteArray &Name, int Wert) { Fragen(Name + ' ' + QByteArray::number(Wert)); }
   int Zahl(const QByteArray &Name) { return Fragen(Name).toInt(); }

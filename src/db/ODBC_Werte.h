@@ -1,0 +1,49 @@
+// Values to the driver and from it: parameters of one call, cells of the current row.
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include "Anweisung.h"
+#include "Ergebnis.h"
+#include "ODBC_Griffe.h"
+
+namespace marklink::db {
+
+/// The parameters of one statement; must live until it has run. Bound anew for each call: the server keeps
+/// the plan by the statement's text, and a text of up to 4000 characters always has the same type.
+class Odbc_Parameter {
+ public:
+  void Anweisungswert(const Anweisung::Stueck &S);
+  /// False when the cell is nothing that the column could hold.
+  bool Zelle_anfuegen(const Zelle &Z, const Feld *Spalte);
+  bool Binden(SQLHSTMT Stmt);
+  bool Leer() const { return Alle_.empty(); }
+
+ private:
+  struct Einer {
+    SQLSMALLINT C, Sql;
+    SQLULEN Groesse;
+    SQLSMALLINT Stellen;
+    QString Text{};
+    qint64 Ganz = 0;
+    double Gleit = 0;
+    SQL_TIMESTAMP_STRUCT Zeit{};
+    const char *Bytes = nullptr;
+    SQLLEN Laenge = 0;
+  };
+  Einer &Text(const QString &Wert);
+  Einer &Ganzzahl(qint64 Wert);
+  Einer &Gleitkomma(double Wert);
+  Einer &Null(Feldart Art);
+
+  std::deque<Einer> Alle_;  ///< whose places do not change
+};
+
+/// What a column of that ODBC type holds.
+Feldart Feldart_aus_Odbc(SQLSMALLINT Typ, int &Bits);
+
+/// Field `Nummer` (0-based) of the row just fetched; false when the driver fails.
+bool Odbc_Zelle_holen(SQLHSTMT Stmt, int Nummer, Feldart Art, Speicher &Lager, Zelle &Ziel);
+
+}  // namespace marklink::db
