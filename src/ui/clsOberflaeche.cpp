@@ -47,18 +47,21 @@ class Feldmarkierer : public QObject {
  protected:
   bool eventFilter(QObject *Objekt, QEvent *Ereignis) override {
     auto *feld = qobject_cast<QLineEdit *>(Objekt);
-    // Behind the event: the click that gave the focus would clear the selection again. Back from a menu or
-    // another window the text is as it was left.
-    if (feld != nullptr && Ereignis->type() == QEvent::FocusIn && Neu_betreten(*Ereignis))
+    // Behind the event: the click that gave the focus would clear the selection again.
+    if (feld != nullptr && Ereignis->type() == QEvent::FocusIn &&
+        !(Nur_kurz_weg(*Ereignis) && feld == Verlassen_))
       QTimer::singleShot(0, feld, &QLineEdit::selectAll);
+    if (Ereignis->type() == QEvent::FocusOut) Verlassen_ = Nur_kurz_weg(*Ereignis) ? feld : nullptr;
     return QObject::eventFilter(Objekt, Ereignis);
   }
 
  private:
-  static bool Neu_betreten(const QEvent &Ereignis) {
+  /// To a menu or another window: the text is to be as it was left.
+  static bool Nur_kurz_weg(const QEvent &Ereignis) {
     const Qt::FocusReason grund = static_cast<const QFocusEvent &>(Ereignis).reason();
-    return grund != Qt::PopupFocusReason && grund != Qt::ActiveWindowFocusReason;
+    return grund == Qt::PopupFocusReason || grund == Qt::ActiveWindowFocusReason;
   }
+  const QLineEdit *Verlassen_ = nullptr;  ///< never followed, only compared
 };
 
 QPixmap Bild_zeichnen(QSvgRenderer &Svg, int Groesse, const QColor &Farbe) {

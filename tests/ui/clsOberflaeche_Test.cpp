@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
+#include <QFocusEvent>
+#include <QLineEdit>
+
 #include "support/Dialoge_Skript.h"
 
 namespace marklink {
@@ -29,6 +33,27 @@ TEST(clsOberflaeche_Test, laesst_dem_Host_was_ihm_gehoert) {
   EXPECT_FALSE(Dialoge_gesetzt() || Fortschritt_gesetzt()) << "its own go";
   QLocale::setDefault(sprache);
   Oberflaeche_einrichten();
+}
+
+TEST(clsOberflaeche_Test, ein_Feld_ist_beim_Betreten_markiert_und_bleibt_es_wie_verlassen) {
+  QDialog fenster;
+  QLineEdit feld(QStringLiteral("alt"), &fenster);
+  Text_markieren(&fenster);
+  const auto fokus = [&feld](QEvent::Type Art, Qt::FocusReason Grund) {
+    QFocusEvent ereignis(Art, Grund);
+    QCoreApplication::sendEvent(&feld, &ereignis);
+    QCoreApplication::processEvents();
+    return feld.selectedText();
+  };
+  // A window that opens gives its first field the focus in this way too.
+  EXPECT_EQ(fokus(QEvent::FocusIn, Qt::ActiveWindowFocusReason), feld.text());
+  feld.deselect();
+  for (const Qt::FocusReason grund : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+    fokus(QEvent::FocusOut, grund);
+    EXPECT_EQ(fokus(QEvent::FocusIn, grund), QString()) << grund;
+  }
+  fokus(QEvent::FocusOut, Qt::TabFocusReason);
+  EXPECT_EQ(fokus(QEvent::FocusIn, Qt::TabFocusReason), feld.text());
 }
 
 }  // namespace
