@@ -7,15 +7,15 @@
 
 #include <QFile>
 #include <QStringList>
+#include <algorithm>
 
 #include "Ablaufverfolgung.h"
+#include "DDL_Teile.h"
 #include "Treiber.h"
 
 namespace marklink::db {
 
 namespace {
-
-QString geklammert(const char *Name) { return u'[' + QString::fromUtf8(Name) + u']'; }
 
 QString Typ(const Spalte &S) {
   switch (S.Typ) {
@@ -41,19 +41,6 @@ QString Typ(const Spalte &S) {
   return {};
 }
 
-QString Liste(const std::vector<const char *> &Namen) {
-  QStringList liste;
-  for (const char *name : Namen) liste.append(geklammert(name));
-  return liste.join(u',');
-}
-
-bool im_Schluessel(const Tabelle &T, const Spalte &S) {
-  for (const char *name : T.Schluessel) {
-    if (QString::fromUtf8(name).compare(QString::fromUtf8(S.Name), Qt::CaseInsensitive) == 0) return true;
-  }
-  return false;
-}
-
 bool Tabellen_anlegen(sqlite3 *Db, const std::vector<Tabelle> &Tabellen) {
   const auto lauf = [Db](const QString &Sql) {
     const bool gut = sqlite3_exec(Db, Sql.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
@@ -74,6 +61,32 @@ bool Tabellen_anlegen(sqlite3 *Db, const std::vector<Tabelle> &Tabellen) {
 
 }  // namespace
 
+QString geklammert(const char *Name) { return u'[' + QString::fromUtf8(Name) + u']'; }
+
+QString Namensliste(const std::vector<const char *> &Namen) {
+  QStringList liste;
+  for (const char *name : Namen) liste.append(geklammert(name));
+  return liste.join(u',');
+}
+
+bool im_Schluessel(const Tabelle &T, const Spalte &S) {
+  return std::any_of(T.Schluessel.begin(), T.Schluessel.end(),
+                     [&](const char *name) { return qstricmp(name, S.Name) == 0; });
+}
+
+std::vector<QString> Tabelle_und_Indizes(const Tabelle &T, const QStringList &Spalten) {
+  std::vector<QString> alle{
+      QStringLiteral("CREATE TABLE %1 (%2)").arg(geklammert(T.Name), Spalten.join(u','))};
+  int nummer = 0;
+  for (const auto &index : T.Indizes) {
+    alle.push_back(QStringLiteral("CREATE INDEX [%1_%2] ON [%1] (%3)")
+                       .arg(QString::fromUtf8(T.Name))
+                       .arg(++nummer)
+                       .arg(Namensliste(index)));
+  }
+  return alle;
+}
+
 std::vector<QString> DDL_bilden(const Tabelle &T) {
   QStringList spalten;
   bool mit_Autowert = false;
@@ -83,18 +96,9 @@ std::vector<QString> DDL_bilden(const Tabelle &T) {
     spalten.append(geklammert(s.Name) + u' ' + Typ(s) + (pflicht ? QStringLiteral(" NOT NULL") : QString()));
   }
   if (!T.Schluessel.empty() && !mit_Autowert) {
-    spalten.append(QStringLiteral("PRIMARY KEY (") + Liste(T.Schluessel) + u')');
+    spalten.append(QStringLiteral("PRIMARY KEY (") + Namensliste(T.Schluessel) + u')');
   }
-  std::vector<QString> alle{QStringLiteral("CREATE TABLE ") + geklammert(T.Name) + QStringLiteral(" (") +
-                            spalten.join(u',') + u')'};
-  int nummer = 0;
-  for (const auto &index : T.Indizes) {
-    alle.push_back(QStringLiteral("CREATE INDEX [%1_%2] ON [%1] (%3)")
-                       .arg(QString::fromUtf8(T.Name))
-                       .arg(++nummer)
-                       .arg(Liste(index)));
-  }
-  return alle;
+  return Tabelle_und_Indizes(T, spalten);
 }
 
 bool Datenbank_anlegen_mit(const std::vector<Tabelle> &Tabellen, const QString &Verbindung) {

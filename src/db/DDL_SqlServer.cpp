@@ -1,16 +1,14 @@
 // From the description of the tables to those of a catalogue on SQL Server.
 #include <QStringList>
-#include <algorithm>
 
 #include "Ablaufverfolgung.h"
 #include "DDL.h"
+#include "DDL_Teile.h"
 #include "Treiber.h"
 
 namespace marklink::db {
 
 namespace {
-
-QString geklammert(const char *Name) { return u'[' + QString::fromUtf8(Name) + u']'; }
 
 QString Typ(const Spalte &S) {
   switch (S.Typ) {
@@ -36,33 +34,21 @@ QString Typ(const Spalte &S) {
   return {};
 }
 
-QString Liste(const std::vector<const char *> &Namen) {
-  QStringList liste;
-  for (const char *name : Namen) liste.append(geklammert(name));
-  return liste.join(u',');
-}
-
 }  // namespace
 
 std::vector<QString> DDL_bilden_SqlServer(const Tabelle &T) {
   QStringList spalten;
   for (const Spalte &s : T.Spalten) {
-    const bool im_Schluessel = std::any_of(T.Schluessel.begin(), T.Schluessel.end(),
-                                           [&](const char *name) { return qstricmp(name, s.Name) == 0; });
-    const bool ohne_Aussage = s.Typ != Spaltentyp::Autowert && s.Typ != Spaltentyp::Ja_Nein;
-    const QString leer = !ohne_Aussage ? QString() : QLatin1String(im_Schluessel ? " NOT NULL" : " NULL");
+    // These two say it with their type.
+    const bool offen = s.Typ != Spaltentyp::Autowert && s.Typ != Spaltentyp::Ja_Nein;
+    const QString leer = offen ? QLatin1String(im_Schluessel(T, s) ? " NOT NULL" : " NULL") : QLatin1String();
     spalten.append(geklammert(s.Name) + u' ' + Typ(s) + leer);
   }
-  const QString name = QString::fromUtf8(T.Name);
-  if (!T.Schluessel.empty())
-    spalten.append(QStringLiteral("CONSTRAINT [PK_%1] PRIMARY KEY (%2)").arg(name, Liste(T.Schluessel)));
-  std::vector<QString> alle{QStringLiteral("CREATE TABLE [%1] (%2)").arg(name, spalten.join(u','))};
-  int nummer = 0;
-  for (const auto &index : T.Indizes) {
-    alle.push_back(
-        QStringLiteral("CREATE INDEX [%1_%2] ON [%1] (%3)").arg(name).arg(++nummer).arg(Liste(index)));
+  if (!T.Schluessel.empty()) {
+    spalten.append(QStringLiteral("CONSTRAINT [PK_%1] PRIMARY KEY (%2)")
+                       .arg(QString::fromUtf8(T.Name), Namensliste(T.Schluessel)));
   }
-  return alle;
+  return Tabelle_und_Indizes(T, spalten);
 }
 
 bool Tabellen_anlegen_SqlServer(const std::vector<Tabelle> &Tabellen, const Verbindungsdaten &Daten) {

@@ -63,9 +63,9 @@ Odbc_Meldung Meldung_lesen(SQLSMALLINT Art, SQLHANDLE Griff) {
     const QString klasse = QString::fromUtf16(reinterpret_cast<const char16_t *>(zustand), 5);
     const QString wortlaut = QString::fromUtf16(reinterpret_cast<const char16_t *>(text));
     alle.append(QStringLiteral("%1 %2 %3").arg(klasse).arg(nummer).arg(ohne_Werte(wortlaut)));
-    // 20003 to 20020 are the client library's own words for a broken connection; so is a failure without any.
-    const bool Abbruch = nummer == 20004 || nummer == 20006 || nummer == 20017 || nummer == 20020;
-    meldung.Verloren |= klasse.startsWith(u"08") || Abbruch;
+    // The client library's own numbers for a connection that broke: read, write, unexpected end, bad reply.
+    const bool abbruch = nummer == 20004 || nummer == 20006 || nummer == 20017 || nummer == 20020;
+    meldung.Verloren |= klasse.startsWith(u"08") || abbruch;
     // Who waited in vain for a lock does not wait again for each further row.
     meldung.Zurueckgerollt |= nummer == 1205 || nummer == 1222 || klasse.startsWith(u"HYT");
   }

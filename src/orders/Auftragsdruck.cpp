@@ -4,6 +4,7 @@
 #include "Stapellauf.h"
 #include "host/Kontext.h"
 #include "ui/Dialoge.h"
+#include "ui/Listenladung.h"
 #include "ui/Zeitraum.h"
 
 namespace marklink {
@@ -30,11 +31,8 @@ QStringList Auswahl_lesen(const Auftragsliste &Liste, bool Meldung_zeigen) {
 
 db::Anweisung Listenanweisung(Art Was, const QStringList &Bestellnummern) {
   db::Anweisung sql("SELECT * FROM WebshopOrdersXTC WHERE ");
-  if (Kontext.gViewablePeriod != 0) {
-    sql += db::Anweisung("", db::Teiltext{Zeitraum_ermitteln(
-                                 Kontext.gViewablePeriod, Zeitraum_Modus::Bedingung, Datumsfeld, QString())});
-    sql += db::Anweisung(" AND ");
-  }
+  const db::Anweisung zeitraum = Zeitraumbedingung(Datumsfeld);
+  if (!zeitraum.Leer()) sql += {zeitraum, " AND "};
   sql += {"OrderID IN (", db::Werteliste{Bestellnummern}, ")"};
   sql +=
       Was == Art::Bestellliste ? db::Anweisung(" ORDER BY Date ASC") : db::Anweisung(" ORDER BY Payment ASC");
