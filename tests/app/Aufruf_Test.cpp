@@ -3,16 +3,15 @@
 #include <QProcess>
 
 #include "Launcher.h"
+#include "support/Testdateien.h"
 
 namespace marklink::test {
 namespace {
 
 TEST(Aufruf_Test, falsche_Aufrufe) {
   const Launcher l;
-  const struct {
-    const char *Zeile;
-    const char *Fehler;  ///< begins standard error
-  } faelle[] = {
+  const char *const faelle[][2] = {
+      // the line, and how standard error begins
       {"", "marklink: Es fehlt ein Befehl."},
       {"fliegen", "marklink: Den Befehl 'fliegen' gibt es nicht."},
       {"fliegen --help", "marklink: Den Befehl 'fliegen' gibt es nicht."},
@@ -44,22 +43,14 @@ TEST(Aufruf_Test, falsche_Aufrufe) {
        "versand_einstellungen."},
       {"vervollstaendigung fisch", "marklink: Für die Shell 'fisch' gibt es keine Vervollständigung"},
   };
-  for (const auto &fall : faelle) {
-    const Ergebnis e = l.Starten(fall.Zeile);
-    EXPECT_EQ(e.Ausgang, 2) << fall.Zeile;
-    EXPECT_TRUE(e.Fehler.startsWith(QString::fromUtf8(fall.Fehler)))
-        << fall.Zeile << ": " << e.Fehler.toStdString();
-    EXPECT_EQ(e.Ausgabe, QString()) << fall.Zeile;
-  }
+  for (const auto &[zeile, fehler] : faelle) l.Pruefen({zeile, 2, "", fehler});
   EXPECT_EQ(QDir(l.Wurzel()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
 }
 
 TEST(Aufruf_Test, Hilfe_auf_jeder_Ebene) {
   const Launcher l;
-  const struct {
-    const char *Zeile;
-    const char *Enthaelt;
-  } faelle[] = {
+  const char *const faelle[][2] = {
+      // the line, and a part of what it prints
       {"--help", "bestellungen status NR STATUS [--mail] [--kommentar TEXT]"},
       {"-h", "--ordner DIR"},
       {"--hilfe", "mandant anlegen NAME [--typ 0|1]"},
@@ -69,40 +60,38 @@ TEST(Aufruf_Test, Hilfe_auf_jeder_Ebene) {
       {"schirm --help", "Aufruf: marklink schirm NAME"},
       {"--version", "marklink 1."},
   };
-  for (const auto &fall : faelle) {
-    const Ergebnis e = l.Starten(fall.Zeile);
-    EXPECT_EQ(e.Ausgang, 0) << fall.Zeile;
-    EXPECT_TRUE(e.Ausgabe.contains(QString::fromUtf8(fall.Enthaelt))) << fall.Zeile << "\n"
-                                                                      << e.Ausgabe.toStdString();
-    EXPECT_EQ(e.Fehler, QString()) << fall.Zeile;
+  for (const auto &[zeile, teil] : faelle) {
+    const Ergebnis e = l.Starten(zeile);
+    EXPECT_EQ(e.Ausgang, 0) << zeile;
+    EXPECT_TRUE(e.Ausgabe.contains(QString::fromUtf8(teil))) << zeile << "\n" << e.Ausgabe.toStdString();
+    EXPECT_EQ(e.Fehler, QString()) << zeile;
   }
 }
 
 TEST(Aufruf_Test, Befehle_ohne_brauchbaren_Mandanten) {
   Launcher l;
-  const auto endet_mit_1 = [&](const char *zeile, const char *fehler) {
-    const Ergebnis e = l.Starten(zeile);
-    EXPECT_EQ(e.Ausgang, 1) << zeile;
-    EXPECT_TRUE(e.Fehler.contains(QString::fromUtf8(fehler))) << zeile << ": " << e.Fehler.toStdString();
-  };
+  const std::string niemand =
+      u"marklink: Im Ordner '%1/' gibt es noch keinen Mandanten;"_qs.arg(l.Ordner()).toStdString();
   for (const char *zeile :
        {"bestellungen liste", "bestellungen abrufen", "bestellungen zeigen 5", "bestellungen loeschen",
         "bestellungen status 5 3", "einstellung lesen A B", "einstellung schreiben A B C"})
-    endet_mit_1(zeile, "gibt es noch keinen Mandanten");
+    l.Pruefen({zeile, 1, "", niemand.c_str()});
   ASSERT_EQ(l.Starten("mandant anlegen Müller").Ausgang, 0);
-  endet_mit_1("bestellungen liste",
-              "[Hinweis] Nehmen Sie zunächst bitte die Einstellungen für Marklink vor.\n"
-              "[Hinweis] Sie haben leider kein Projekt für Marklink definiert. | "
-              "Die Auftragsverwaltung kann nicht geöffnet werden.\n");
-  ASSERT_EQ(l.Starten("einstellung schreiben Marklink project P").Ausgang, 0);
+  l.Pruefen({"bestellungen liste", 1, "",
+             "[Hinweis] Nehmen Sie zunächst bitte die Einstellungen für Marklink vor.\n"
+             "[Hinweis] Sie haben leider kein Projekt für Marklink definiert. | "
+             "Die Auftragsverwaltung kann nicht geöffnet werden.\n"
+             "marklink: Der Mandant 'Müller' hat noch kein Shopprojekt;"});
+  l.Einstellen("Marklink", "project", u"P"_qs);
   EXPECT_EQ(l.Starten("bestellungen liste").Ausgang, 0);
   ASSERT_EQ(l.Starten("mandant anlegen Meier --typ 1").Ausgang, 0);
-  endet_mit_1("bestellungen liste", "Es gibt mehrere Mandanten (Müller, Meier)");
-  endet_mit_1("bestellungen liste --mandant Schulz", "Den Mandanten 'Schulz' gibt es");
-  endet_mit_1("bestellungen liste --mandant müller --ordner anderswo", "gibt es im Ordner");
+  l.Pruefen({"bestellungen liste", 1, "", "marklink: Es gibt mehrere Mandanten (Müller, Meier)"});
+  l.Pruefen({"bestellungen liste --mandant Schulz", 1, "", "marklink: Den Mandanten 'Schulz' gibt es"});
+  l.Pruefen({"bestellungen liste --mandant müller --ordner anderswo", 1, "",
+             "marklink: Den Mandanten 'müller' gibt es im Ordner"});
   EXPECT_EQ(l.Starten("bestellungen liste --mandant=müller").Ausgang, 0)
       << "case does not matter, as in the list";
-  l.Umgebung(QStringLiteral("MARKLINK_MANDANT"), QStringLiteral("Müller"));
+  l.Umgebung(u"MARKLINK_MANDANT"_qs, u"Müller"_qs);
   EXPECT_EQ(l.Starten("bestellungen liste").Ausgang, 0);
 }
 
@@ -111,18 +100,15 @@ TEST(Aufruf_Test, Schirme_brauchen_einen_Bildschirm) {
   ASSERT_EQ(l.Starten("mandant anlegen Test").Ausgang, 0);
   for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
     l.Umgebung(QLatin1String(variable), QString());
-  const Ergebnis e = l.Starten("schirm einstellungen");
-  EXPECT_EQ(e.Ausgang, 1);
-  EXPECT_TRUE(e.Fehler.startsWith(QStringLiteral("marklink: Es gibt keinen Bildschirm")))
-      << e.Fehler.toStdString();
+  l.Pruefen({"schirm einstellungen", 1, "", "marklink: Es gibt keinen Bildschirm"});
 
-  l.Umgebung(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-  const auto prozess = l.Anstossen({QStringLiteral("schirm"), QStringLiteral("einstellungen")});
+  l.Umgebung(u"QT_QPA_PLATFORM"_qs, u"offscreen"_qs);
+  const auto prozess = l.Anstossen({u"schirm"_qs, u"einstellungen"_qs});
   ASSERT_TRUE(prozess->waitForStarted());
-  const QString karte = QStringLiteral("/proc/%1/maps").arg(prozess->processId());
+  const QString karte = u"/proc/%1/maps"_qs.arg(prozess->processId());
   bool mit_fenstern = false;
   for (int i = 0; i < 1000 && !mit_fenstern && !prozess->waitForFinished(10); ++i)
-    mit_fenstern = Launcher::Lesen(karte).contains("libqoffscreen");
+    mit_fenstern = Datei_lesen(karte).contains("libqoffscreen");
   EXPECT_TRUE(mit_fenstern) << prozess->readAllStandardError().toStdString();
   EXPECT_FALSE(prozess->waitForFinished(300)) << "the dialog stays open";
   prozess->kill();
@@ -131,20 +117,18 @@ TEST(Aufruf_Test, Schirme_brauchen_einen_Bildschirm) {
 
 TEST(Aufruf_Test, Datenordner_des_Benutzers_ohne_Angabe) {
   Launcher l;
-  l.Umgebung(QStringLiteral("MARKLINK_ORDNER"), QString());
+  l.Umgebung(u"MARKLINK_ORDNER"_qs, QString());
   EXPECT_EQ(l.Starten("mandant anlegen Test").Ausgang, 0);
-  EXPECT_TRUE(QFile::exists(l.Wurzel() + QStringLiteral("/daten/marklink/Test.mdb")));
+  EXPECT_TRUE(QFile::exists(l.Wurzel() + u"/daten/marklink/Test.mdb"_qs));
 }
 
 TEST(Aufruf_Test, Vervollstaendigung_in_der_Shell) {
   const Launcher l;
   const Ergebnis skript = l.Starten("vervollstaendigung bash");
   ASSERT_EQ(skript.Ausgang, 0);
-  Launcher::Schreiben(l.Wurzel() + QStringLiteral("/skript"), skript.Ausgabe.toUtf8());
-  const struct {
-    const char *Worte;  ///< the last one is being typed
-    const char *Vorschlaege;
-  } faelle[] = {
+  Datei_schreiben(l.Wurzel() + u"/skript"_qs, skript.Ausgabe.toUtf8());
+  const char *const faelle[][2] = {
+      // what is typed, and what the shell offers for its last word
       {"marklink be", "bestellungen belege"},
       {"marklink bestellungen l", "liste loeschen"},
       {"marklink --ordner mandant bestellungen liste --j", "--json"},
@@ -153,17 +137,15 @@ TEST(Aufruf_Test, Vervollstaendigung_in_der_Shell) {
       {"marklink vervollstaendigung b", "bash"},
       {"marklink --mandant be", ""},
   };
-  for (const auto &fall : faelle) {
+  for (const auto &[getippt, vorschlaege] : faelle) {
     QProcess bash;
-    bash.start(
-        QStringLiteral("bash"),
-        {QStringLiteral("-c"),
-         QStringLiteral("source %1/skript; COMP_WORDS=(%2); COMP_CWORD=$((${#COMP_WORDS[@]}-1)); _marklink; "
-                        "echo -n \"${COMPREPLY[*]}\"")
-             .arg(l.Wurzel(), QString::fromUtf8(fall.Worte))});
+    bash.start(u"bash"_qs,
+               {u"-c"_qs,
+                u"source %1/skript; COMP_WORDS=(%2); COMP_CWORD=$((${#COMP_WORDS[@]}-1)); _marklink; "
+                "echo -n \"${COMPREPLY[*]}\""_qs.arg(l.Wurzel(), QString::fromUtf8(getippt))});
     ASSERT_TRUE(bash.waitForFinished());
-    EXPECT_EQ(QString::fromUtf8(bash.readAllStandardOutput()).toStdString(), fall.Vorschlaege) << fall.Worte;
-    EXPECT_EQ(bash.readAllStandardError(), QByteArray()) << fall.Worte;
+    EXPECT_EQ(QString::fromUtf8(bash.readAllStandardOutput()).toStdString(), vorschlaege) << getippt;
+    EXPECT_EQ(bash.readAllStandardError(), QByteArray()) << getippt;
   }
 }
 

@@ -1,63 +1,52 @@
 // Orders from the command line, from the shop to the table and back.
 #include <signal.h>
-#include <sqlite3.h>
 
 #include <QElapsedTimer>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 
 #include "Launcher.h"
+#include "support/Datenbank_Test.h"
 #include "support/Shop_Attrappe.h"
+#include "support/Testdateien.h"
 
 namespace marklink::test {
 namespace {
 
-QByteArray Bestellung(const char *Nummer, const char *Status, const char *Datum, const char *Betrag) {
-  return QByteArray("<ORDER_INFO><ORDER_HEADER><ORDER_ID>") + Nummer +
+const QByteArray Kopf = "<?xml version=\"1.0\" encoding=\"windows-1252\"?>";
+
+QByteArray Bestellung(const QByteArray &Nummer, const QByteArray &Status, const QByteArray &Datum,
+                      const QByteArray &Betrag) {
+  return "<ORDER_INFO><ORDER_HEADER><ORDER_ID>" + Nummer +
          "</ORDER_ID><CUSTOMER_NAME>J\xFCrgen Gro\xDF</CUSTOMER_NAME><ORDER_STATUS>" + Status +
          "</ORDER_STATUS><ORDER_DATE>" + Datum +
-         "</ORDER_DATE><ORDER_CURRENCY>EUR</ORDER_CURRENCY></ORDER_HEADER><ORDER_COMMENTS>Bitte\x1b[31m "
-         "klingeln</ORDER_COMMENTS><ORDER_TOTAL><TOTAL><TOTAL_CLASS>ot_total</TOTAL_CLASS><TOTAL_VALUE>" +
+         "</ORDER_DATE><ORDER_CURRENCY>EUR</ORDER_CURRENCY></ORDER_HEADER>"
+         "<ORDER_COMMENTS>Bitte\x1b[31m klingeln</ORDER_COMMENTS>"
+         "<ORDER_TOTAL><TOTAL><TOTAL_CLASS>ot_total</TOTAL_CLASS><TOTAL_VALUE>" +
          Betrag +
-         "</TOTAL_VALUE></TOTAL></ORDER_TOTAL><BILLING_ADDRESS><FIRSTNAME>J\xFCrgen</"
-         "FIRSTNAME><LASTNAME>Gro\xDF</LASTNAME>"
-         "<CITY>Dresden</CITY><COUNTRY>DE</COUNTRY></"
-         "BILLING_ADDRESS><ORDER_PRODUCTS><PRODUCT><PRODUCTS_ID>7</PRODUCTS_ID>"
-         "<PRODUCTS_QUANTITY>2</PRODUCTS_QUANTITY><PRODUCTS_MODEL>A-1</PRODUCTS_MODEL><PRODUCTS_NAME>Schuh</"
-         "PRODUCTS_NAME>"
+         "</TOTAL_VALUE></TOTAL></ORDER_TOTAL><BILLING_ADDRESS><FIRSTNAME>J\xFCrgen</FIRSTNAME>"
+         "<LASTNAME>Gro\xDF</LASTNAME><CITY>Dresden</CITY><COUNTRY>DE</COUNTRY></BILLING_ADDRESS>"
+         "<ORDER_PRODUCTS><PRODUCT><PRODUCTS_ID>7</PRODUCTS_ID><PRODUCTS_QUANTITY>2</PRODUCTS_QUANTITY>"
+         "<PRODUCTS_MODEL>A-1</PRODUCTS_MODEL><PRODUCTS_NAME>Schuh</PRODUCTS_NAME>"
          "<PRODUCTS_PRICE>1234.5</PRODUCTS_PRICE></PRODUCT></ORDER_PRODUCTS></ORDER_INFO>";
 }
-
-const char *const Status_ok =
-    "<?xml version=\"1.0\" "
-    "encoding=\"windows-1252\"?><STATUS><STATUS_DATA><MESSAGE>Ge\xE4ndert.</MESSAGE></STATUS_DATA>"
-    "</STATUS>";
 
 class Bestellungen_Test : public testing::TestWithParam<int> {
  protected:
   void SetUp() override {
     Shop.Antworten("get_orders",
-                   Shop_Antwort{"<?xml version=\"1.0\" encoding=\"windows-1252\"?><ORDER>" +
-                                Bestellung("1001", "1", "2024-06-15 00:00:00", "2469.00") +
+                   Shop_Antwort{Kopf + "<ORDER>" + Bestellung("1001", "1", "2024-06-15 00:00:00", "2469.00") +
                                 Bestellung("1002", "3", "2023-02-01 08:30:00", "5.5") + "</ORDER>"});
     L.Mandant_mit_Shop(GetParam(), Shop.Port());
   }
   void Abrufen() const {
-    const Ergebnis e = L.Starten("bestellungen abrufen");
-    ASSERT_EQ(e.Ausgang, 0) << e.Fehler.toStdString();
-    EXPECT_EQ(e.Fehler, QStringLiteral("[Hinweis] Die Bestellungen wurden in Varda importiert.\n"));
-    EXPECT_EQ(e.Ausgabe, QString());
+    L.Pruefen({"bestellungen abrufen", 0, "", "[Hinweis] Die Bestellungen wurden in Varda importiert.\n"});
   }
   QJsonArray Liste(const char *Optionen = "") const {
-    const Ergebnis e = L.Starten(Worte("bestellungen liste --json") + Worte(Optionen));
-    EXPECT_EQ(e.Ausgang, 0) << e.Fehler.toStdString();
-    return QJsonDocument::fromJson(e.Ausgabe.toUtf8()).array();
+    return L.Json(Worte("bestellungen liste") + Worte(Optionen)).array();
   }
-  QStringList Stati() const {
-    return Launcher::Roh_lesen(Mdb(), "SELECT OrderID, Status FROM WebshopOrdersXTC ORDER BY OrderID");
-  }
+  QString Stati() const { return L.Zeilen("SELECT OrderID, Status FROM WebshopOrdersXTC ORDER BY OrderID"); }
   QString Mdb() const { return L.Datei("Test.mdb"); }
   /// The last request to the shop behind its login.
   std::string Letzte_Anfrage() const { return Shop.Parameter(Shop.Anfragen().size() - 1).toStdString(); }
@@ -73,19 +62,18 @@ TEST_P(Bestellungen_Test, abrufen_und_auflisten) {
   const QJsonArray alle = Liste();
   ASSERT_EQ(alle.size(), 2);
   const QJsonObject erste = alle[0].toObject();
-  EXPECT_EQ(erste.value(QStringLiteral("OrderID")).toString(), QStringLiteral("1001"));
-  EXPECT_EQ(erste.value(QStringLiteral("Customer")).toString(), QStringLiteral("Jürgen Groß"));
-  EXPECT_EQ(erste.value(QStringLiteral("Amount")).toDouble(), 2469.0);
-  EXPECT_EQ(erste.value(QStringLiteral("Date")).toString(), QStringLiteral("2024-06-15T00:00:00"));
-  EXPECT_EQ(erste.value(QStringLiteral("Invoice")), QJsonValue(false));
-  EXPECT_TRUE(erste.value(QStringLiteral("PaymentPractice")).isNull());
+  EXPECT_EQ(erste[u"OrderID"_qs].toString(), u"1001"_qs);
+  EXPECT_EQ(erste[u"Customer"_qs].toString(), u"Jürgen Groß"_qs);
+  EXPECT_EQ(erste[u"Amount"_qs].toDouble(), 2469.0);
+  EXPECT_EQ(erste[u"Date"_qs].toString(), u"2024-06-15T00:00:00"_qs);
+  EXPECT_EQ(erste[u"Invoice"_qs], QJsonValue(false));
+  EXPECT_TRUE(erste[u"PaymentPractice"_qs].isNull());
   EXPECT_EQ(erste.size(), 22);
 
   const QString tabelle = L.Starten("bestellungen liste").Ausgabe;
-  EXPECT_TRUE(
-      tabelle.contains(QStringLiteral("1001        15.06.2024           Jürgen Groß      2.469,00  EUR")))
+  EXPECT_TRUE(tabelle.contains(u"1001        15.06.2024           Jürgen Groß      2.469,00  EUR"_qs))
       << tabelle.toStdString();
-  EXPECT_TRUE(tabelle.endsWith(QStringLiteral("\n\n2 Bestellungen\n"))) << tabelle.toStdString();
+  EXPECT_TRUE(tabelle.endsWith(u"\n\n2 Bestellungen\n"_qs)) << tabelle.toStdString();
 }
 
 TEST_P(Bestellungen_Test, Filter) {
@@ -98,49 +86,42 @@ TEST_P(Bestellungen_Test, Filter) {
       {"--zeitraum 2", 1},  {"--zeitraum 8", 1}, {"--zeitraum 10", 0}, {"--status 3 --zeitraum 1", 0},
       {"--zeitraum 40", 0}, {"--zeitraum 0", 2}};
   for (const auto &fall : faelle) EXPECT_EQ(Liste(fall.Optionen).size(), fall.Anzahl) << fall.Optionen;
-  ASSERT_EQ(L.Starten("einstellung schreiben Marklink ViewablePeriod 2").Ausgang, 0);
+  L.Einstellen("Marklink", "ViewablePeriod", u"2"_qs);
   EXPECT_EQ(Liste().size(), 1) << "the period chosen last holds without an option";
 
   EXPECT_EQ(L.Starten("bestellungen abrufen --status 1,3").Ausgang, 0);
   EXPECT_EQ(Letzte_Anfrage(), "&order_status='1','3'");
   const size_t anfragen = Shop.Anfragen().size();
-  for (const char *zeile : {"bestellungen abrufen --status 99", "bestellungen liste --status 1,99"}) {
-    const Ergebnis e = L.Starten(zeile);
-    EXPECT_EQ(e.Ausgang, 2);
-    EXPECT_TRUE(e.Fehler.startsWith(QStringLiteral("marklink: Den Status '99' gibt es nicht")))
-        << e.Fehler.toStdString();
-  }
+  for (const char *zeile : {"bestellungen abrufen --status 99", "bestellungen liste --status 1,99"})
+    L.Pruefen({zeile, 2, "", "marklink: Den Status '99' gibt es nicht"});
   EXPECT_EQ(Shop.Anfragen().size(), anfragen);
 }
 
 TEST_P(Bestellungen_Test, zeigen) {
   Abrufen();
-  ASSERT_EQ(L.Starten("einstellung schreiben Marklink ViewablePeriod 2").Ausgang,
-            0);  // hides it in the list only
+  L.Einstellen("Marklink", "ViewablePeriod", u"2"_qs);  // hides it in the list only
   const QString text = L.Starten("bestellungen zeigen 1001").Ausgabe;
   for (const char *teil : {"Bestellung 1001 vom 15.06.2024\n", "Auftragswert:   2.469,00 EUR\n",
                            "Jürgen Groß", "Dresden", "A-1", "1.234,50", "Bitte [31m klingeln"})
     EXPECT_TRUE(text.contains(QString::fromUtf8(teil))) << teil << " in\n" << text.toStdString();
-  const QJsonObject objekt =
-      QJsonDocument::fromJson(L.Starten("bestellungen zeigen 1001 --json").Ausgabe.toUtf8()).object();
-  const QJsonObject position = objekt.value(QStringLiteral("Positions")).toArray().at(0).toObject();
-  EXPECT_EQ(position.value(QStringLiteral("Einzelpreis")).toDouble(), 1234.5);
-  EXPECT_EQ(position.value(QStringLiteral("Menge")).toDouble(), 2.0);
-  for (const char *zeile :
-       {"bestellungen zeigen 1", "bestellungen zeigen 1001'", "bestellungen zeigen --json x"}) {
-    const Ergebnis e = L.Starten(zeile);
-    EXPECT_EQ(e.Ausgang, 1) << zeile;
-    EXPECT_TRUE(e.Fehler.contains(QStringLiteral("ist nicht vorhanden"))) << e.Fehler.toStdString();
-  }
+  const QJsonObject objekt = L.Json("bestellungen zeigen 1001").object();
+  const QJsonObject position = objekt[u"Positions"_qs].toArray().at(0).toObject();
+  EXPECT_EQ(position[u"Einzelpreis"_qs].toDouble(), 1234.5);
+  EXPECT_EQ(position[u"Menge"_qs].toDouble(), 2.0);
+  const Befehlsfall fehlt[] = {
+      {"bestellungen zeigen 1", 1, "", "marklink: Die Bestellung '1' ist nicht vorhanden."},
+      {"bestellungen zeigen 1001'", 1, "", "marklink: Die Bestellung '1001'' ist nicht vorhanden."},
+      {"bestellungen zeigen --json x", 1, "", "marklink: Die Bestellung 'x' ist nicht vorhanden."}};
+  for (const Befehlsfall &fall : fehlt) L.Pruefen(fall);
 }
 
 TEST_P(Bestellungen_Test, Status) {
   Abrufen();
-  Shop.Antworten("set_order_update", Status_ok);
-  const struct {
-    const char *Zeile;
-    const char *Anfrage;
-  } faelle[] = {
+  Shop.Antworten(
+      "set_order_update",
+      Shop_Antwort{Kopf + "<STATUS><STATUS_DATA><MESSAGE>Ge\xE4ndert.</MESSAGE></STATUS_DATA></STATUS>"});
+  const char *const faelle[][2] = {
+      // the line, and what goes to the shop
       {"bestellungen status 1001 2", "&order_id=1001&status=2&notify=off&notify_comments=off&comments="},
       {"bestellungen status 1001 4 --mail",
        "&order_id=1001&status=4&notify=on&notify_comments=off&comments="},
@@ -149,13 +130,11 @@ TEST_P(Bestellungen_Test, Status) {
       {"bestellungen status --mail --kommentar=so 1001 3",
        "&order_id=1001&status=3&notify=on&notify_comments=on&comments=so"},
   };
-  for (const auto &fall : faelle) {
-    const Ergebnis e = L.Starten(fall.Zeile);
-    EXPECT_EQ(e.Ausgang, 0) << fall.Zeile << e.Fehler.toStdString();
-    EXPECT_EQ(e.Ausgabe, QStringLiteral("Geändert.\n"));
-    EXPECT_EQ(Letzte_Anfrage(), fall.Anfrage);
+  for (const auto &[zeile, anfrage] : faelle) {
+    L.Pruefen({zeile, 0, "Geändert.\n", "[Hinweis] Der Status der Bestellung wurde erfolgreich geändert.\n"});
+    EXPECT_EQ(Letzte_Anfrage(), anfrage);
   }
-  EXPECT_EQ(Stati(), (QStringList{QStringLiteral("1001|3"), QStringLiteral("1002|3")}));
+  EXPECT_EQ(Stati(), u"1001|3\n1002|3"_qs);
 
   const size_t anfragen = Shop.Anfragen().size();
   EXPECT_EQ(L.Starten("bestellungen status 4711 2").Ausgang, 1);
@@ -165,37 +144,34 @@ TEST_P(Bestellungen_Test, Status) {
   Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{"kaputt", 500}; });
   const Ergebnis e = L.Starten("bestellungen status 1001 2");
   EXPECT_EQ(e.Ausgang, 1);
-  EXPECT_TRUE(e.Fehler.contains(QStringLiteral("nur in Varda geändert"))) << e.Fehler.toStdString();
-  EXPECT_EQ(Stati().first(), QStringLiteral("1001|2"));
+  EXPECT_TRUE(e.Fehler.contains(u"nur in Varda geändert"_qs)) << e.Fehler.toStdString();
+  EXPECT_EQ(Stati(), u"1001|2\n1002|3"_qs);
 }
 
 TEST_P(Bestellungen_Test, loeschen_nur_nach_Ja) {
   Abrufen();
-  const QString frage = QStringLiteral(
-      "[Bestellung in Varda löschen] Möchten Sie die temporär gespeicherten Bestellungen wirklich "
-      "löschen?\n");
+  const QString vorher = Stati();
+  const char *const frage =
+      "[Bestellung in Varda löschen] Möchten Sie die temporär gespeicherten Bestellungen wirklich löschen?";
   for (const char *zeile :
        {"bestellungen loeschen", "bestellungen loeschen --antwort Bestellung_in_Varda_löschen=Nein",
         "bestellungen loeschen --antwort Hinweis=Ja"}) {
-    const Ergebnis e = L.Starten(zeile);
-    EXPECT_EQ(e.Ausgang, 1) << zeile;
-    EXPECT_TRUE(e.Fehler.startsWith(frage)) << e.Fehler.toStdString();
-    EXPECT_EQ(Stati().size(), 2) << zeile;
+    L.Pruefen({zeile, 1, "", frage});
+    EXPECT_EQ(Stati(), vorher) << zeile;
   }
-  const Ergebnis e = L.Starten("--antwort Bestellung_in_Varda_löschen=Ja bestellungen loeschen");
-  EXPECT_EQ(e.Ausgang, 0);
-  EXPECT_EQ(e.Fehler, frage + QStringLiteral("[Hinweis] Die Bestellung wurden in Varda gelöscht.\n"));
-  EXPECT_EQ(Stati(), QStringList());
+  const std::string geloescht = std::string(frage) + "\n[Hinweis] Die Bestellung wurden in Varda gelöscht.\n";
+  L.Pruefen({"--antwort Bestellung_in_Varda_löschen=Ja bestellungen loeschen", 0, "", geloescht.c_str()});
+  EXPECT_EQ(Stati(), QString());
 }
 
 TEST_P(Bestellungen_Test, Shop_antwortet_nicht) {
   Abrufen();
+  const QString vorher = Stati();
   Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{"", 404}; });
-  const Ergebnis e = L.Starten("bestellungen abrufen");
-  EXPECT_EQ(e.Ausgang, 1);
-  EXPECT_EQ(e.Fehler, QStringLiteral("[Fehler] Beim Einlesen der Bestellungen ist ein Fehler aufgetreten. | "
-                                     "Die Bestellungen konnten nicht abgerufen werden.\n"));
-  EXPECT_EQ(Stati().size(), 2);
+  L.Pruefen({"bestellungen abrufen", 1, "",
+             "[Fehler] Beim Einlesen der Bestellungen ist ein Fehler aufgetreten. | "
+             "Die Bestellungen konnten nicht abgerufen werden.\n"});
+  EXPECT_EQ(Stati(), vorher);
 }
 
 TEST_P(Bestellungen_Test, Strg_C_gibt_den_Shop_auf) {
@@ -214,37 +190,29 @@ TEST_P(Bestellungen_Test, Strg_C_gibt_den_Shop_auf) {
 TEST_P(Bestellungen_Test, Datenbank_unbrauchbar) {
   Abrufen();
   const auto scheitern = [&](const std::vector<const char *> &zeilen) {
-    for (const char *zeile : zeilen) {
-      const Ergebnis e = L.Starten(zeile);
-      EXPECT_EQ(e.Ausgang, 1) << zeile;
-      EXPECT_TRUE(e.Fehler.contains(QStringLiteral("marklink: Die Datenbank des Mandanten 'Test' ")))
-          << e.Fehler.toStdString();
-    }
+    for (const char *zeile : zeilen)
+      L.Pruefen({zeile, 1, "", "marklink: Die Datenbank des Mandanten 'Test' "});
   };
   const size_t anfragen = Shop.Anfragen().size();
   {
-    sqlite3 *fremder = nullptr;
-    ASSERT_EQ(sqlite3_open(Mdb().toUtf8().constData(), &fremder), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(fremder, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    Rohe_Verbindung fremder(Mdb());
+    ASSERT_TRUE(fremder.lauf("BEGIN IMMEDIATE"));
     scheitern({"bestellungen status 1001 2"});
     EXPECT_EQ(L.Starten("bestellungen zeigen 1001").Ausgang, 0) << "reading goes on";
-    sqlite3_close(fremder);
   }
   const std::vector<const char *> alle{"bestellungen liste", "bestellungen abrufen",
                                        "bestellungen zeigen 1001", "bestellungen status 1001 2",
                                        "bestellungen loeschen --antwort Bestellung_in_Varda_löschen=Ja"};
   const QByteArray kaputt(200000, 'x');
-  Launcher::Schreiben(Mdb(), kaputt);
+  Datei_schreiben(Mdb(), kaputt);
   scheitern(alle);
-  EXPECT_EQ(Launcher::Lesen(Mdb()), kaputt) << "a damaged file is left for whoever can repair it";
+  EXPECT_EQ(Datei_lesen(Mdb()), kaputt) << "a damaged file is left for whoever can repair it";
   ASSERT_TRUE(QFile::remove(Mdb()));
   scheitern(alle);
   EXPECT_FALSE(QFile::exists(Mdb()));
   EXPECT_EQ(Shop.Anfragen().size(), anfragen);
   ASSERT_TRUE(QFile::remove(L.Datei("varda.ini")));
-  const Ergebnis e = L.Starten("bestellungen liste");
-  EXPECT_EQ(e.Ausgang, 1);
-  EXPECT_TRUE(e.Fehler.startsWith(QStringLiteral("marklink: "))) << e.Fehler.toStdString();
+  L.Pruefen({"bestellungen liste", 1, "", "marklink: "});
 }
 
 }  // namespace

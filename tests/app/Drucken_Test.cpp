@@ -2,7 +2,7 @@
 #include <QProcess>
 
 #include "Launcher.h"
-#include "support/Datenbank_Test.h"
+#include "support/Testdateien.h"
 
 namespace marklink::test {
 namespace {
@@ -15,38 +15,32 @@ TEST_P(Drucken_Test, Listen_in_Dateien) {
   for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
     l.Umgebung(QLatin1String(name), QString());
   l.Mandant_mit_Shop(GetParam(), 9);
-  ASSERT_EQ(l.Starten("einstellung schreiben Marklink ViewablePeriod 1").Ausgang, 0);
-  ASSERT_TRUE(Rohe_Verbindung(l.Datei("Test.mdb"))
-                  .lauf("INSERT INTO WebshopOrdersXTC (OrderID, Customer, Date, Amount, Payment) VALUES "
-                        "('1', 'Jürgen Groß', '2020-01-01 08:00:00', 1000.5, 'Vorkasse'),"
-                        "('2', 'Anna; Köhn', '2020-01-02 00:00:00', 0.1, 'Vorkasse')"));
-  const struct Fall {
-    const char *Zeile;
-    int Ausgang;
-    const char *Fehler;
-  } faelle[] = {
-      {"drucken bestellliste", 2, "Es fehlt das Argument DATEI."},
-      {"drucken bestellliste a.pdf", 2, "Es fehlen Bestellnummern"},
-      {"drucken bestellliste a.pdf --alle 1", 2, "nicht beides"},
-      {"drucken bestellliste a.pdf 9", 1, "Die Bestellung '9' ist nicht vorhanden."},
-      {"drucken bestellliste nicht/da/a.pdf --alle", 1, "kann nicht geschrieben werden"},
-      {"drucken bestellliste a.pdf --alle", 0, ""},
-      {"drucken transaktionsliste t.txt 9 2", 1, "'9' ist nicht vorhanden"},
-      {"drucken transaktionsliste b.xls --alle", 0, ""},
+  l.Einstellen("Marklink", "ViewablePeriod", u"1"_qs);
+  l.Sql(
+      "INSERT INTO WebshopOrdersXTC (OrderID, Customer, Date, Amount, Payment) VALUES "
+      "('1', 'Jürgen Groß', '2020-01-01 08:00:00', 1000.5, 'Vorkasse'),"
+      "('2', 'Anna; Köhn', '2020-01-02 00:00:00', 0.1, 'Vorkasse')");
+  const char *const neun = "marklink: Die Bestellung '9' ist nicht vorhanden.";
+  const std::string nicht_da =
+      u"marklink: Die Datei '%1/nicht/da/a.pdf' kann nicht geschrieben werden.\n"_qs.arg(l.Wurzel())
+          .toStdString();
+  const Befehlsfall faelle[] = {
+      {"drucken bestellliste", 2, "", "marklink: Es fehlt das Argument DATEI."},
+      {"drucken bestellliste a.pdf", 2, "", "marklink: Es fehlen Bestellnummern"},
+      {"drucken bestellliste a.pdf --alle 1", 2, "",
+       "marklink: Entweder Bestellnummern oder '--alle', nicht beides."},
+      {"drucken bestellliste a.pdf 9", 1, "", neun},
+      {"drucken bestellliste nicht/da/a.pdf --alle", 1, "", nicht_da.c_str()},
+      {"drucken bestellliste a.pdf --alle", 0},
+      {"drucken transaktionsliste t.txt 9 2", 1, "", neun},
+      {"drucken transaktionsliste b.xls --alle", 0},
   };
-  for (const Fall &fall : faelle) {
-    const Ergebnis e = l.Starten(fall.Zeile);
-    EXPECT_EQ(e.Ausgang, fall.Ausgang) << fall.Zeile << e.Fehler.toStdString();
-    EXPECT_EQ(e.Ausgabe, QString());
-    EXPECT_TRUE(*fall.Fehler == 0 ? e.Fehler.isEmpty() : e.Fehler.contains(QString::fromUtf8(fall.Fehler)))
-        << fall.Zeile << e.Fehler.toStdString();
-  }
-  EXPECT_TRUE(Launcher::Lesen(l.Wurzel() + QStringLiteral("/t.txt"))
-                  .contains("\r\n2;02.01.2020;\"Anna; K\xF6hn\";0,10;\r\n"));
-  EXPECT_TRUE(Launcher::Lesen(l.Wurzel() + QStringLiteral("/b.xls")).contains(">1000.6</Data>"));
+  for (const Befehlsfall &fall : faelle) l.Pruefen(fall);
+  EXPECT_TRUE(
+      Datei_lesen(l.Wurzel() + u"/t.txt"_qs).contains("\r\n2;02.01.2020;\"Anna; K\xF6hn\";0,10;\r\n"));
+  EXPECT_TRUE(Datei_lesen(l.Wurzel() + u"/b.xls"_qs).contains(">1000.6</Data>"));
   QProcess leser;
-  leser.start(QStringLiteral("pdftotext"),
-              {QStringLiteral("-layout"), l.Wurzel() + QStringLiteral("/a.pdf"), QStringLiteral("-")});
+  leser.start(u"pdftotext"_qs, {u"-layout"_qs, l.Wurzel() + u"/a.pdf"_qs, u"-"_qs});
   ASSERT_TRUE(leser.waitForFinished());
   const QString text = QString::fromUtf8(leser.readAllStandardOutput());
   for (const char *stelle :

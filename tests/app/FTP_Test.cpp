@@ -1,8 +1,4 @@
 // The launcher's FTP client against a real server.
-#include <arpa/inet.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -17,6 +13,8 @@
 #include "host/Programmstart.h"
 #include "shop/Skriptuebertragung.h"
 #include "support/Dialoge_Skript.h"
+#include "support/Shop_Attrappe.h"
+#include "support/Testdateien.h"
 
 namespace marklink::test {
 namespace {
@@ -24,12 +22,12 @@ namespace {
 class FTP_Server {
  public:
   explicit FTP_Server(bool Tls) {
-    QDir(Ordner()).mkpath(QStringLiteral("gesperrt"));
-    const QString zertifikat = Wurzel_.filePath(QStringLiteral("z.pem"));
+    QDir(Ordner()).mkpath(u"gesperrt"_qs);
+    const QString zertifikat = Wurzel_.filePath(u"z.pem"_qs);
     if (Tls) Zertifikat_anlegen(zertifikat);
     Prozess_.setProcessChannelMode(QProcess::MergedChannels);
     // Debian's own interpreter: another one would not find Debian's packages.
-    Prozess_.start(QStringLiteral("/usr/bin/python3"),
+    Prozess_.start(u"/usr/bin/python3"_qs,
                    QStringList{QStringLiteral(MARKLINK_TESTORDNER "/ftp_server.py"), Ordner()} +
                        (Tls ? QStringList{zertifikat} : QStringList{}));
     while (!Prozess_.canReadLine() && Prozess_.waitForReadyRead(20'000)) continue;
@@ -44,11 +42,11 @@ class FTP_Server {
   FTP_Server(const FTP_Server &) = delete;
   FTP_Server &operator=(const FTP_Server &) = delete;
 
-  QString Ordner() const { return Wurzel_.filePath(QStringLiteral("server")); }
-  QByteArray Datei(const char *Pfad) const {
-    return Launcher::Lesen(Ordner() + u'/' + QString::fromUtf8(Pfad));
+  QString Ordner() const { return Wurzel_.filePath(u"server"_qs); }
+  QByteArray Datei(const QByteArray &Pfad) const {
+    return Datei_lesen(Ordner() + u'/' + QString::fromUtf8(Pfad));
   }
-  QString Adresse() const { return QStringLiteral("127.0.0.1:%1").arg(Port_); }
+  QString Adresse() const { return u"127.0.0.1:%1"_qs.arg(Port_); }
   /// The commands since the last call, the login's password left out.
   QByteArray Befehle() {
     while (Prozess_.waitForReadyRead(50)) continue;
@@ -58,13 +56,12 @@ class FTP_Server {
  private:
   /// Key and a certificate that nobody vouches for, in one file.
   static void Zertifikat_anlegen(const QString &Datei) {
-    const QString oeffentlich = Datei + QStringLiteral(".crt");
+    const QString oeffentlich = Datei + u".crt"_qs;
     QProcess openssl;
-    openssl.start(QStringLiteral("openssl"),
-                  Worte("req -x509 -newkey rsa:2048 -nodes -subj /CN=127.0.0.1 -keyout") +
-                      QStringList{Datei, QStringLiteral("-out"), oeffentlich});
+    openssl.start(u"openssl"_qs, Worte("req -x509 -newkey rsa:2048 -nodes -subj /CN=127.0.0.1 -keyout") +
+                                     QStringList{Datei, u"-out"_qs, oeffentlich});
     ASSERT_TRUE(openssl.waitForFinished());
-    Launcher::Schreiben(Datei, Launcher::Lesen(Datei) + Launcher::Lesen(oeffentlich));
+    Datei_schreiben(Datei, Datei_lesen(Datei) + Datei_lesen(oeffentlich));
   }
 
   QTemporaryDir Wurzel_;
@@ -72,53 +69,31 @@ class FTP_Server {
   quint16 Port_ = 0;
 };
 
-/// A port where connections are taken and nobody answers.
-class Stummer_Server {
- public:
-  Stummer_Server() {
-    sockaddr_in ort{};
-    ort.sin_family = AF_INET;
-    ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t laenge = sizeof ort;
-    EXPECT_TRUE(::bind(Sockel_, reinterpret_cast<sockaddr *>(&ort), laenge) == 0 &&
-                ::listen(Sockel_, 5) == 0 &&
-                ::getsockname(Sockel_, reinterpret_cast<sockaddr *>(&ort), &laenge) == 0);
-    Adresse = QStringLiteral("127.0.0.1:%1").arg(ntohs(ort.sin_port));
-  }
-  ~Stummer_Server() { ::close(Sockel_); }
-  Stummer_Server(const Stummer_Server &) = delete;
-  Stummer_Server &operator=(const Stummer_Server &) = delete;
-  QString Adresse;
-
- private:
-  int Sockel_ = ::socket(AF_INET, SOCK_STREAM, 0);
-};
-
 class FTP_Test : public ::testing::TestWithParam<bool> {
  protected:
   FTP_Test() : Server(GetParam()) {
-    Kontext.gFirmenname = QStringLiteral("Test");
-    Komponente_->Aufrufen(QStringLiteral("Initialisierung"), Start_);
-    Launcher::Schreiben(Lokal, "<?php // neu");
+    Kontext.gFirmenname = u"Test"_qs;
+    Komponente_->Aufrufen(u"Initialisierung"_qs, Start_);
+    Datei_schreiben(Lokal, "<?php // neu");
   }
   ~FTP_Test() override {
     Kontext = {};
     ftpgrenzen() = {};
   }
 
-  bool Aufrufen(const char *Operation, const QVariantList &Weitere,
-                const QString &Passwort = QStringLiteral("geheim"), const QString &Adresse = {}) {
-    QVariantList argumente{Adresse.isEmpty() ? Server.Adresse() : Adresse, QStringLiteral("u"), Passwort};
+  bool Aufrufen(const char *Operation, const QVariantList &Weitere, const QString &Passwort = u"geheim"_qs,
+                const QString &Adresse = {}) {
+    QVariantList argumente{Adresse.isEmpty() ? Server.Adresse() : Adresse, u"u"_qs, Passwort};
     argumente += Weitere;
     return Komponente_->Aufrufen(QLatin1String(Operation), argumente).toBool();
   }
 
   QTemporaryDir Eigener;
-  const QString Lokal = Eigener.filePath(QStringLiteral("mark link#.php"));
+  const QString Lokal = Eigener.filePath(u"mark link#.php"_qs);
   FTP_Server Server;
 
  private:
-  QVariantList Start_{QStringLiteral("Test"), QStringLiteral("Chef")};
+  QVariantList Start_{u"Test"_qs, u"Chef"_qs};
   std::unique_ptr<Host_Komponente> Komponente_ = Varda_erzeugen();
 };
 INSTANTIATE_TEST_SUITE_P(Tls, FTP_Test, ::testing::Bool());
@@ -136,18 +111,17 @@ TEST_P(FTP_Test, laedt_hoch_legt_Ordner_an_und_ersetzt) {
   for (const auto &fall : faelle) {
     const QString ordner = QString::fromUtf8(fall.Ordner);
     QFile::remove(Server.Ordner() + u'/' + QString::fromUtf8(fall.Datei));
-    const QVariantList gesucht{ordner, QStringLiteral("mark link#.php")};
+    const QVariantList gesucht{ordner, u"mark link#.php"_qs};
     EXPECT_FALSE(Aufrufen("FTP_Datei_exists", gesucht)) << fall.Ordner;
     for (const QByteArray inhalt : {"<?php // eine lange erste Fassung", "<?php"}) {
-      Launcher::Schreiben(Lokal, inhalt);
+      Datei_schreiben(Lokal, inhalt);
       EXPECT_TRUE(Aufrufen("FTP_Upload", {ordner, Lokal})) << fall.Ordner;
       EXPECT_EQ(Server.Datei(fall.Datei), inhalt) << fall.Ordner;
     }
     EXPECT_TRUE(Aufrufen("FTP_Datei_exists", gesucht)) << fall.Ordner;
-    EXPECT_FALSE(Aufrufen("FTP_Datei_exists", {ordner, QStringLiteral("mark")})) << fall.Ordner;
+    EXPECT_FALSE(Aufrufen("FTP_Datei_exists", {ordner, u"mark"_qs})) << fall.Ordner;
   }
-  EXPECT_FALSE(Aufrufen("FTP_Datei_exists", {QStringLiteral("/httpdocs/"), QStringLiteral("shop")}))
-      << "a folder is no file";
+  EXPECT_FALSE(Aufrufen("FTP_Datei_exists", {u"/httpdocs/"_qs, u"shop"_qs})) << "a folder is no file";
   const QByteArray befehle = Server.Befehle();
   EXPECT_TRUE(befehle.contains("EPSV")) << befehle.toStdString();
   EXPECT_FALSE(befehle.contains("PORT")) << "never active";
@@ -156,55 +130,45 @@ TEST_P(FTP_Test, laedt_hoch_legt_Ordner_an_und_ersetzt) {
 
 TEST_P(FTP_Test, Fehlschlaege_sind_still_und_verraten_kein_Passwort) {
   ftpgrenzen().Verbinden_ms = 300;
-  const Stummer_Server stumm;
-  const QString ohne_server = Stummer_Server().Adresse, richtig = QStringLiteral("geheim");
+  const auto adresse = [](const Shop_Attrappe &shop) { return u"127.0.0.1:%1"_qs.arg(shop.Port()); };
+  const Shop_Attrappe stumm;  // takes connections, and has no greeting
+  const QString niemand = adresse(Shop_Attrappe()), richtig = u"geheim"_qs;
   const struct {
     const char *Fall;
     QString Adresse, Passwort, Ordner, Datei, Grund;
   } faelle[] = {
-      {"wrong password", {}, QStringLiteral("verraten"), {}, Lokal, QStringLiteral("Access denied")},
-      {"server gone", ohne_server, richtig, {}, Lokal, QStringLiteral("connect")},
-      {"server silent", stumm.Adresse, richtig, {}, Lokal, QStringLiteral("time")},
-      {"folder closed", {}, richtig, QStringLiteral("/gesperrt/"), Lokal, QStringLiteral("550")},
-      {"folder below a closed one",
-       {},
-       richtig,
-       QStringLiteral("/gesperrt/neu/"),
-       Lokal,
-       QStringLiteral("denied")},
-      {"no local file", {}, richtig, {}, Lokal + u'x', QStringLiteral("local file")},
-      {"local folder", {}, richtig, {}, Eigener.path(), QStringLiteral("local file")},
-      {"no server", QStringLiteral(" "), richtig, {}, Lokal, QStringLiteral("server name")},
-      {"impossible server", QStringLiteral("a b"), richtig, {}, Lokal, QStringLiteral("server name")},
-      {"second command in the password",
-       {},
-       QStringLiteral("geheim\r\nDELE x"),
-       {},
-       Lokal,
-       QStringLiteral("login")},
-      {"second command in the folder", {}, richtig, QStringLiteral("a\r\nDELE x/"), Lokal, {}},
+      {"wrong password", {}, u"verraten"_qs, {}, Lokal, u"Access denied"_qs},
+      {"server gone", niemand, richtig, {}, Lokal, u"connect"_qs},
+      {"server silent", adresse(stumm), richtig, {}, Lokal, u"time"_qs},
+      {"folder closed", {}, richtig, u"/gesperrt/"_qs, Lokal, u"550"_qs},
+      {"folder below a closed one", {}, richtig, u"/gesperrt/neu/"_qs, Lokal, u"denied"_qs},
+      {"no local file", {}, richtig, {}, Lokal + u'x', u"local file"_qs},
+      {"local folder", {}, richtig, {}, Eigener.path(), u"local file"_qs},
+      {"no server", u" "_qs, richtig, {}, Lokal, u"server name"_qs},
+      {"impossible server", u"a b"_qs, richtig, {}, Lokal, u"server name"_qs},
+      {"second command in the password", {}, u"geheim\r\nDELE x"_qs, {}, Lokal, u"login"_qs},
+      {"second command in the folder", {}, richtig, u"a\r\nDELE x/"_qs, Lokal, {}},
       {"check asked for",
-       QStringLiteral("ftps://") + Server.Adresse(),
+       u"ftps://"_qs + Server.Adresse(),
        richtig,
        {},
        Lokal,
-       GetParam() ? QStringLiteral("certificate") : QStringLiteral("SSL")},
+       GetParam() ? u"certificate"_qs : u"SSL"_qs},
   };
   for (const auto &fall : faelle) {
-    qputenv("MARKLINK_TRACE", "1");
-    ::testing::internal::CaptureStderr();
-    EXPECT_FALSE(Aufrufen("FTP_Upload", {fall.Ordner, fall.Datei}, fall.Passwort, fall.Adresse)) << fall.Fall;
-    const QString spur = QString::fromStdString(::testing::internal::GetCapturedStderr());
-    qunsetenv("MARKLINK_TRACE");
+    const QString spur = QString::fromStdString(Spur([&] {
+      EXPECT_FALSE(Aufrufen("FTP_Upload", {fall.Ordner, fall.Datei}, fall.Passwort, fall.Adresse))
+          << fall.Fall;
+    }));
     EXPECT_TRUE(spur.contains(fall.Grund)) << fall.Fall << ": " << spur.toStdString();
     EXPECT_FALSE(spur.contains(QLatin1String("geheim")) || spur.contains(QLatin1String("verraten")))
         << fall.Fall;
   }
   EXPECT_EQ(QDir(Server.Ordner()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-            QStringList{QStringLiteral("gesperrt")});
-  EXPECT_TRUE(QDir(Server.Ordner() + QStringLiteral("/gesperrt")).isEmpty());
-  EXPECT_FALSE(Aufrufen("FTP_Verbindungstest", {}, QStringLiteral("verraten")));
-  EXPECT_FALSE(Aufrufen("FTP_Datei_exists", {QStringLiteral("/fehlt/"), QStringLiteral("x")}));
+            QStringList{u"gesperrt"_qs});
+  EXPECT_TRUE(QDir(Server.Ordner() + u"/gesperrt"_qs).isEmpty());
+  EXPECT_FALSE(Aufrufen("FTP_Verbindungstest", {}, u"verraten"_qs));
+  EXPECT_FALSE(Aufrufen("FTP_Datei_exists", {u"/fehlt/"_qs, u"x"_qs}));
   EXPECT_FALSE(Aufrufen("FTP_Datei_exists", {QString(), QString()}));
 }
 
@@ -215,26 +179,25 @@ TEST_P(FTP_Test, ein_neuer_Mandant_bringt_sein_Script_auf_den_Server) {
   Programm_initialisieren();
   Mandant_initialisieren();
   for (const auto &[schluessel, wert] :
-       {std::pair{"ftphostname", Server.Adresse()}, std::pair{"ftpusername", QStringLiteral("u")},
-        std::pair{"ftppassword", QStringLiteral("geheim")}, std::pair{"ftpfolder", QStringLiteral("/web/")}})
-    Option_schreiben(QStringLiteral("Marklink"), QLatin1String(schluessel), wert);
-  const QString begleiter =
-      Ini_lesen(l.Datei("varda.ini"), QStringLiteral("Marklink"), QStringLiteral("exportfile"));
+       {std::pair{"ftphostname", Server.Adresse()}, std::pair{"ftpusername", u"u"_qs},
+        std::pair{"ftppassword", u"geheim"_qs}, std::pair{"ftpfolder", u"/web/"_qs}})
+    Option_schreiben(u"Marklink"_qs, QLatin1String(schluessel), wert);
+  const QString begleiter = Ini_lesen(l.Datei("varda.ini"), u"Marklink"_qs, u"exportfile"_qs);
   Launcher_Komponenten komponenten;
   Host_Komponenten_setzen(&komponenten);
   Dialoge_Skript skript;
-  skript.Erwarten(QStringLiteral("Fehler"));
+  skript.Erwarten(u"Fehler"_qs);
   FTP_Script_suchen();
-  skript.Erwarten(QStringLiteral("Hinweis"));
+  skript.Erwarten(u"Hinweis"_qs);
   FTP_Script_hochladen();
-  skript.Erwarten(QStringLiteral("Hinweis"));
+  skript.Erwarten(u"Hinweis"_qs);
   FTP_Script_suchen();
   Host_Komponenten_setzen(nullptr);
   Programmordner_setzen({});
   const QByteArray script = Server.Datei("web/marklink/marklink.php");
   EXPECT_TRUE(script.startsWith("<?php")) << "the script in one file";
-  EXPECT_EQ(script, Launcher::Lesen(l.Datei("marklink.php")));
-  EXPECT_TRUE(Server.Datei(("web/marklink/" + begleiter.toUtf8()).constData()).startsWith("<?php"));
+  EXPECT_EQ(script, Datei_lesen(l.Datei("marklink.php")));
+  EXPECT_TRUE(Server.Datei("web/marklink/" + begleiter.toUtf8()).startsWith("<?php"));
 }
 
 }  // namespace

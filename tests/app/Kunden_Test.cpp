@@ -1,6 +1,5 @@
 // Customers and invoices of orders from the command line.
 #include "Launcher.h"
-#include "support/Datenbank_Test.h"
 #include "support/Shop_Attrappe.h"
 
 namespace marklink::test {
@@ -13,12 +12,12 @@ TEST_P(Kunden_Test, anlegen_und_Rechnung_zeigen) {
   Shop_Attrappe shop;
   const Launcher l;
   l.Mandant_mit_Shop(GetParam(), shop.Port());
-  // The orders are older than the period that is looked at.
-  ASSERT_EQ(l.Starten("einstellung schreiben Marklink ViewablePeriod 1").Ausgang, 0);
-  const auto sql = [&](const char *text) { ASSERT_TRUE(Rohe_Verbindung(l.Datei("Test.mdb")).lauf(text)); };
-  sql("INSERT INTO WebshopOrdersXTC (OrderID, CustomerID, Email, Date) VALUES ('1', '7', 'k7', '2020-01-01'),"
+  l.Einstellen("Marklink", "ViewablePeriod", u"1"_qs);  // the orders are older than what is looked at
+  l.Sql(
+      "INSERT INTO WebshopOrdersXTC (OrderID, CustomerID, Email, Date) VALUES ('1', '7', 'k7', '2020-01-01'),"
       "('2', '8', 'k8', '2020-01-01'), ('3', '7', 'k7', '2020-01-01')");
-  sql("INSERT INTO Invoice (InvoiceNumber, OrderingNumber, Webshop) VALUES ('R1', '1', -1), ('R2', '1', 1)");
+  l.Sql(
+      "INSERT INTO Invoice (InvoiceNumber, OrderingNumber, Webshop) VALUES ('R1', '1', -1), ('R2', '1', 1)");
   shop.Skript_setzen([](const QByteArray &anfrage) {
     const QByteArray kunde = anfrage.contains("customers_id=7") ? "7" : "8";
     return Shop_Antwort{
@@ -26,30 +25,22 @@ TEST_P(Kunden_Test, anlegen_und_Rechnung_zeigen) {
         "</EMAIL><LASTNAME>Gro\xDF</LASTNAME><FIRSTNAME>Nr. " + kunde +
         "</FIRSTNAME></CUSTOMERS_DATA></CUSTOMERS>"};
   });
-  const struct Fall {
-    const char *Zeile;
-    int Ausgang;
-    const char *Ausgabe, *Fehler;
-  } faelle[] = {
-      {"kunden anlegen", 2, "", "Es fehlen Bestellnummern"},
-      {"kunden anlegen --alle 1", 2, "", "nicht beides"},
-      {"kunden anlegen 9", 1, "", "marklink: Die Bestellung '9' ist nicht vorhanden.\n"},
-      {"kunden anlegen 9 2", 1, "2: 10001 Groß, Nr. 8\n", "'9' ist nicht vorhanden"},
-      {"kunden anlegen --alle", 0, "1: 10002 Groß, Nr. 7\n2: 10001 Groß, Nr. 8\n3: 10002 Groß, Nr. 7\n", ""},
-      {"bestellungen rechnung 1", 0, GetParam() == 0 ? "R1\n" : "R2\n", ""},
-      {"bestellungen rechnung 2", 1, "", "Für diese Bestellung liegt noch keine Rechnung vor."},
+  const char *const neun = "marklink: Die Bestellung '9' ist nicht vorhanden.\n";
+  const Befehlsfall faelle[] = {
+      {"kunden anlegen", 2, "", "marklink: Es fehlen Bestellnummern"},
+      {"kunden anlegen --alle 1", 2, "", "marklink: Entweder Bestellnummern oder '--alle', nicht beides."},
+      {"kunden anlegen 9", 1, "", neun},
+      {"kunden anlegen 9 2", 1, "2: 10001 Groß, Nr. 8\n", neun},
+      {"kunden anlegen --alle", 0, "1: 10002 Groß, Nr. 7\n2: 10001 Groß, Nr. 8\n3: 10002 Groß, Nr. 7\n"},
+      {"bestellungen rechnung 1", 0, GetParam() == 0 ? "R1\n" : "R2\n"},
+      {"bestellungen rechnung 2", 1, "", "marklink: Für diese Bestellung liegt noch keine Rechnung vor."},
   };
-  const auto pruefen = [&](const Fall &fall) {
-    const Ergebnis e = l.Starten(fall.Zeile);
-    EXPECT_EQ(e.Ausgang, fall.Ausgang) << fall.Zeile;
-    EXPECT_EQ(e.Ausgabe, QString::fromUtf8(fall.Ausgabe)) << fall.Zeile;
-    EXPECT_TRUE(e.Fehler.contains(QString::fromUtf8(fall.Fehler))) << e.Fehler.toStdString();
-  };
-  for (const Fall &fall : faelle) pruefen(fall);
-  sql("UPDATE Contacts SET Email = 'x'");
-  pruefen({"kunden anlegen 1 --antwort Suchname_vergeben=Groß_II", 0, "1: 10003 Groß II\n", "[Suchname"});
+  for (const Befehlsfall &fall : faelle) l.Pruefen(fall);
+  l.Sql("UPDATE Contacts SET Email = 'x'");
+  l.Pruefen({"kunden anlegen 1 --antwort Suchname_vergeben=Groß_II", 0, "1: 10003 Groß II\n",
+             "[Suchname vergeben]"});
   shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{"", 500}; });
-  pruefen({"kunden anlegen 1", 1, "1: kein Kunde, der Shop hat nicht geantwortet\n", "[Fehler]"});
+  l.Pruefen({"kunden anlegen 1", 1, "1: kein Kunde, der Shop hat nicht geantwortet\n", "[Fehler]"});
 }
 
 }  // namespace

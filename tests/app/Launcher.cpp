@@ -1,17 +1,20 @@
 // Runs the built launcher.
 #include "Launcher.h"
 
-#include <sqlite3.h>
-
-#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+
+#include "support/Datenbank_Test.h"
 
 namespace marklink::test {
 
 namespace {
 
 constexpr int Geduld_ms = 60000;
+
+bool Passt(const QString &Gesehen, const QString &Erwartet) {
+  return Erwartet.isEmpty() || Erwartet.endsWith(u'\n') ? Gesehen == Erwartet : Gesehen.startsWith(Erwartet);
+}
 
 }  // namespace
 
@@ -22,11 +25,11 @@ QStringList Worte(const char *Zeile) {
 }
 
 Launcher::Launcher() {
-  Umgebung(QStringLiteral("MARKLINK_ORDNER"), Ordner());
-  Umgebung(QStringLiteral("XDG_DATA_HOME"), Wurzel() + QStringLiteral("/daten"));
-  Umgebung(QStringLiteral("MARKLINK_HEUTE"), QStringLiteral("2024-06-15"));
-  Umgebung(QStringLiteral("TMPDIR"), Wurzel());             // reply files hold customers' data
-  Umgebung(QStringLiteral("LC_ALL"), QStringLiteral("C"));  // output and arguments are UTF-8 all the same
+  Umgebung(u"MARKLINK_ORDNER"_qs, Ordner());
+  Umgebung(u"XDG_DATA_HOME"_qs, Wurzel() + u"/daten"_qs);
+  Umgebung(u"MARKLINK_HEUTE"_qs, u"2024-06-15"_qs);
+  Umgebung(u"TMPDIR"_qs, Wurzel());  // reply files hold customers' data
+  Umgebung(u"LC_ALL"_qs, u"C"_qs);   // output and arguments are UTF-8 all the same
 }
 
 Launcher::~Launcher() = default;
@@ -60,48 +63,43 @@ Ergebnis Launcher::Abwarten(QProcess &Prozess) {
 
 Ergebnis Launcher::Starten(const QStringList &Argumente) const { return Abwarten(*Anstossen(Argumente)); }
 
-void Launcher::Mandant_mit_Shop(int Typ, quint16 Port) const {
-  ASSERT_EQ(Starten({QStringLiteral("mandant"), QStringLiteral("anlegen"), QStringLiteral("Test"),
-                     QStringLiteral("--typ"), QString::number(Typ)})
+void Launcher::Pruefen(const Befehlsfall &Erwartet) const {
+  SCOPED_TRACE(Erwartet.Zeile);
+  const Ergebnis e = Starten(Erwartet.Zeile);
+  EXPECT_EQ(e.Ausgang, Erwartet.Ausgang);
+  EXPECT_TRUE(Passt(e.Ausgabe, QString::fromUtf8(Erwartet.Ausgabe))) << "output: " << e.Ausgabe.toStdString();
+  EXPECT_TRUE(Passt(e.Fehler, QString::fromUtf8(Erwartet.Fehler))) << "error: " << e.Fehler.toStdString();
+}
+
+QJsonDocument Launcher::Json(const QStringList &Argumente) const {
+  const Ergebnis e = Starten(Argumente + QStringList{u"--json"_qs});
+  EXPECT_EQ(e.Ausgang, 0) << e.Fehler.toStdString();
+  return QJsonDocument::fromJson(e.Ausgabe.toUtf8());
+}
+
+void Launcher::Einstellen(const char *Abschnitt, const char *Schluessel, const QString &Wert) const {
+  ASSERT_EQ(Starten(Worte("einstellung schreiben") +
+                    QStringList{QString::fromUtf8(Abschnitt), QString::fromUtf8(Schluessel), Wert})
                 .Ausgang,
             0);
-  const std::pair<const char *, QString> werte[] = {
-      {"project", QStringLiteral("Shop")}, {"hostname", QStringLiteral("127.0.0.1")},
-      {"port", QString::number(Port)},     {"folder", QStringLiteral("/shop/")},
-      {"username", QStringLiteral("u")},   {"password", QStringLiteral("geheim")}};
-  for (const auto &[schluessel, wert] : werte)
-    ASSERT_EQ(Starten({QStringLiteral("einstellung"), QStringLiteral("schreiben"), QStringLiteral("Marklink"),
-                       QLatin1String(schluessel), wert})
-                  .Ausgang,
-              0);
 }
 
-QStringList Launcher::Roh_lesen(const QString &Datei, const char *Sql) {
-  QStringList zeilen;
-  sqlite3 *db = nullptr;
-  sqlite3_stmt *stmt = nullptr;
-  EXPECT_EQ(sqlite3_open_v2(Datei.toUtf8().constData(), &db, SQLITE_OPEN_READONLY, nullptr), SQLITE_OK);
-  EXPECT_EQ(sqlite3_prepare_v2(db, Sql, -1, &stmt, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
-  while (sqlite3_step(stmt) == SQLITE_ROW) {
-    QStringList zellen;
-    for (int i = 0; i < sqlite3_column_count(stmt); ++i)
-      zellen << QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, i)));
-    zeilen << zellen.join(u'|');
-  }
-  sqlite3_finalize(stmt);
-  sqlite3_close(db);
-  return zeilen;
+void Launcher::Mandant_mit_Shop(int Typ, quint16 Port) const {
+  ASSERT_EQ(Starten(Worte("mandant anlegen Test --typ") + QStringList{QString::number(Typ)}).Ausgang, 0);
+  Einstellen("Marklink", "project", u"Shop"_qs);
+  Einstellen("Marklink", "hostname", u"127.0.0.1"_qs);
+  Einstellen("Marklink", "port", QString::number(Port));
+  Einstellen("Marklink", "folder", u"/shop/"_qs);
+  Einstellen("Marklink", "username", u"u"_qs);
+  Einstellen("Marklink", "password", u"geheim"_qs);
 }
 
-void Launcher::Schreiben(const QString &Datei, const QByteArray &Inhalt) {
-  QFile f(Datei);
-  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-  f.write(Inhalt);
+void Launcher::Sql(const char *Text) const {
+  ASSERT_TRUE(Rohe_Verbindung(Datei("Test.mdb")).lauf(Text)) << Text;
 }
 
-QByteArray Launcher::Lesen(const QString &Datei) {
-  QFile f(Datei);
-  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+QString Launcher::Zeilen(const char *Sql, const char *Datenbank) const {
+  return Rohe_Verbindung(Datei(Datenbank)).lesen(Sql);
 }
 
 }  // namespace marklink::test

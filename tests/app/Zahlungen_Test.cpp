@@ -1,7 +1,4 @@
 // The launcher's host components, and what the command line tells of shipping costs and open items.
-#include <sqlite3.h>
-
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include "Launcher.h"
@@ -9,6 +6,7 @@
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
 #include "rules/Zahlungsverkehr.h"
+#include "support/Datenbank_Test.h"
 #include "support/Testmandant.h"
 
 namespace marklink::test {
@@ -33,9 +31,8 @@ class Komponenten_Test : public Mandant_Test {
         Host_Komponente_aufrufen(k.get(), u"Initialisierung"_qs, {Kontext.gFirmenname, u"Chef"_qs}).toBool());
     return k;
   }
-  static db::Recordset Saetze() {
-    return Abfragen("SELECT * FROM AccountingRecords ORDER BY AccountingNumber");
-  }
+  /// What the books hold, as another program reads it.
+  QString Zeilen(const char *Sql) const { return Rohe_Verbindung(Mandant.Datenbankdatei()).lesen(Sql); }
   Launcher_Komponenten Komponenten;
 };
 MARKLINK_BEIDE_TYPEN(Komponenten_Test);
@@ -44,16 +41,11 @@ TEST_P(Komponenten_Test, Zahlungseingang_wird_gebucht_und_kennt_seinen_Satz) {
   const auto zahlung = Zahlungseingang_erzeugen(
       {u"Rechnung"_qs, u"R1"_qs, QDate(2024, 6, 15), u"Bar"_qs, u"Groß"_qs, u"K1"_qs, 119.0});
   ASSERT_TRUE(zahlung);
-  const db::Recordset satz = Saetze();
-  ASSERT_EQ(satz.RecordCount(), 1);
-  EXPECT_EQ(satz.Text(u"BookingText"_qs), u"ZE für Rechnung R1 vom 15.06.2024"_qs);
-  EXPECT_EQ(satz.Text(u"Date"_qs), u"2024-06-15 00:00:00"_qs);
-  EXPECT_EQ(satz.Number(u"Amount"_qs), 119.0);
-  EXPECT_FALSE(satz.IsNull(u"VatAmount"_qs));
-  EXPECT_EQ(satz.Text(u"DebitAccount"_qs), u"1200"_qs);
-  EXPECT_EQ(satz.Text(u"ReferenceDocumentNumber"_qs), u"R1"_qs);
-  EXPECT_EQ(Abfragen("SELECT * FROM PaymentIncome").Text(u"AccountingNumber"_qs),
-            satz.Text(u"AccountingNumber"_qs));
+  EXPECT_EQ(Zeilen("SELECT a.BookingText, a.Date, a.Amount, a.VatAmount IS NULL, a.DebitAccount, "
+                   "a.ReferenceDocumentNumber FROM AccountingRecords a JOIN PaymentIncome p ON "
+                   "p.AccountingNumber = a.AccountingNumber"),
+            u"ZE für Rechnung R1 vom 15.06.2024|2024-06-15 00:00:00|119.0|0|1200|R1"_qs);
+  EXPECT_EQ(Zeilen("SELECT COUNT(*) FROM AccountingRecords"), u"1"_qs);
   const auto datev = Bereit(u"datev.common"_qs);
   EXPECT_TRUE(Host_Komponente_aufrufen(datev.get(), u"Beleg_gebucht"_qs,
                                        {u"PaymentIncome"_qs, u"PaymentNumber"_qs, zahlung->Nummer})
@@ -69,39 +61,26 @@ TEST_P(Komponenten_Test, Buchungssaetze_eines_Belegs_kommen_und_gehen) {
   EXPECT_FALSE(rufen(u"Beleg_gebucht"_qs, frage));
   EXPECT_TRUE(rufen(u"Beleg_Buchungen_erstellen"_qs, {u"Rechnung"_qs, u"R1"_qs, 1}));
   EXPECT_TRUE(rufen(u"Beleg_gebucht"_qs, frage));
-  EXPECT_EQ(Saetze().Number(u"Amount"_qs), 119.0);
-  EXPECT_EQ(Saetze().Number(u"VatAmount"_qs), 19.0);
-  EXPECT_EQ(Saetze().Number(u"RecordType"_qs), 1.0);
+  EXPECT_EQ(Zeilen("SELECT Amount, VatAmount, RecordType FROM AccountingRecords"), u"119.0|19.0|1"_qs);
   EXPECT_TRUE(rufen(u"Beleg_Buchungen_loeschen"_qs, {u"Rechnung"_qs, u"R1"_qs}));
   EXPECT_FALSE(rufen(u"Beleg_gebucht"_qs, frage));
   EXPECT_FALSE(rufen(u"Beleg_Buchungen_erstellen"_qs, {u"Rechnung"_qs, u"R9"_qs, 1}));
   EXPECT_FALSE(rufen(u"Beleg_Buchungen_erstellen"_qs, {u"Angebot"_qs, u"R1"_qs, 1}));
-  EXPECT_EQ(Saetze().RecordCount(), 0);
+  EXPECT_EQ(Zeilen("SELECT * FROM AccountingRecords"), QString());
 }
 
 TEST_P(Komponenten_Test, Lastschrift_steht_in_der_Tabelle) {
-  const QVariantList werte{0,
-                           false,
-                           QDate(2024, 6, 15),
-                           u"Jürgen Groß"_qs,
-                           u"123"_qs,
-                           u"Sparkasse"_qs,
-                           u"85050300"_qs,
-                           119.0,
-                           u"Rechnungsnr. R1"_qs,
-                           u"Rechnung vom 15.06.2024"_qs,
-                           u"Rechnung"_qs,
-                           u"R1"_qs};
+  const QVariantList werte =
+      QVariantList{0, false, QDate(2024, 6, 15)} +
+      QVariantList{u"Jürgen Groß"_qs, u"123"_qs, u"Sparkasse"_qs, u"85050300"_qs, 119.0} +
+      QVariantList{u"Rechnungsnr. R1"_qs, u"Rechnung vom 15.06.2024"_qs, u"Rechnung"_qs, u"R1"_qs};
   const auto dta = Bereit(u"dta.common"_qs);
   const QString erste = Host_Komponente_aufrufen(dta.get(), u"Buchung_speichern"_qs, werte).toString();
   const QString zweite = Host_Komponente_aufrufen(dta.get(), u"Buchung_speichern"_qs, werte).toString();
   EXPECT_NE(erste, zweite);
-  const db::Recordset rs =
-      Abfragen({"SELECT * FROM DTABookings WHERE BookingNumber = ", db::Zahl(zweite.toInt())});
-  EXPECT_EQ(rs.Text(u"AccountHolder"_qs), u"Jürgen Groß"_qs);
-  EXPECT_EQ(rs.Text(u"Purpose1"_qs), u"Rechnungsnr. R1"_qs);
-  EXPECT_EQ(rs.Number(u"Amount"_qs), 119.0);
-  EXPECT_EQ(rs.Text(u"DocumentNumber"_qs), u"R1"_qs);
+  EXPECT_EQ(Zeilen("SELECT BookingNumber, AccountHolder, Purpose1, Amount, DocumentNumber FROM DTABookings"),
+            u"%1|Jürgen Groß|Rechnungsnr. R1|119.0|R1\n%2|Jürgen Groß|Rechnungsnr. R1|119.0|R1"_qs.arg(
+                erste, zweite));
 
   EXPECT_FALSE(Host_Komponente_aufrufen(dta.get(), u"Buchung_speichern"_qs, {0}).isValid());
   EXPECT_FALSE(Host_Komponente_aufrufen(dta.get(), u"Buchung_drucken"_qs, {}).isValid());
@@ -110,18 +89,14 @@ TEST_P(Komponenten_Test, Lastschrift_steht_in_der_Tabelle) {
   EXPECT_FALSE(
       Host_Komponente_aufrufen(fremd.get(), u"Initialisierung"_qs, {u"Anderer"_qs, u"x"_qs}).toBool());
   EXPECT_FALSE(Host_Komponente_aufrufen(fremd.get(), u"Buchung_speichern"_qs, werte).isValid());
-  EXPECT_EQ(Abfragen("SELECT * FROM DTABookings").RecordCount(), 2);
+  EXPECT_EQ(Zeilen("SELECT COUNT(*) FROM DTABookings"), u"2"_qs);
   EXPECT_EQ(Host_Komponente_erzeugen(u"fremd.common"_qs), nullptr);
 }
 
 TEST(Zahlungsbefehle_Test, Versandkosten_und_Posten) {
   Launcher l;
   l.Mandant_mit_Shop(0, 1);
-  const auto json = [&l](const QStringList &worte) {
-    const Ergebnis e = l.Starten(worte + QStringList{u"--json"_qs});
-    EXPECT_EQ(e.Ausgang, 0) << e.Fehler.toStdString();
-    return QJsonDocument::fromJson(e.Ausgabe.toUtf8()).object();
-  };
+  const auto json = [&l](const QStringList &worte) { return l.Json(worte).object(); };
   const QStringList post{u"versandkosten"_qs, u"Deutsche Post"_qs};
   for (const QString &land : {u"DE"_qs, u"Deutschland"_qs}) {
     const QJsonObject kosten = json(post + QStringList{land, u"5,01"_qs});
@@ -137,18 +112,12 @@ TEST(Zahlungsbefehle_Test, Versandkosten_und_Posten) {
   EXPECT_EQ(l.Starten(post + QStringList{u"DE"_qs, u"schwer"_qs}).Ausgang, 2);
   EXPECT_EQ(l.Starten("versandkosten Kutsche DE 1").Ausgang, 1);
 
-  const QString mdb = l.Datei("Test.mdb");
-  sqlite3 *db = nullptr;
-  ASSERT_EQ(sqlite3_open(mdb.toUtf8().constData(), &db), SQLITE_OK);
-  EXPECT_EQ(sqlite3_exec(db,
-                         "INSERT INTO Invoice(InvoiceNumber,TotalAmount,Date) "
-                         "VALUES('R1',100,'2024-06-01 00:00:00'),('R2',80,'2024-06-01 00:00:00');"
-                         "INSERT INTO OpenItems(OpenItemNumber,document,DocumentNumber,Amount,OverdueFines,"
-                         "PaymentsReceived,OutstandingAmount,DuePayment) "
-                         "VALUES('OP-1','Rechnung','R1',100,5,42,60.5,'2024-06-15 00:00:00')",
-                         nullptr, nullptr, nullptr),
-            SQLITE_OK);
-  sqlite3_close(db);
+  l.Sql(
+      "INSERT INTO Invoice(InvoiceNumber,TotalAmount,Date) "
+      "VALUES('R1',100,'2024-06-01 00:00:00'),('R2',80,'2024-06-01 00:00:00');"
+      "INSERT INTO OpenItems(OpenItemNumber,document,DocumentNumber,Amount,OverdueFines,"
+      "PaymentsReceived,OutstandingAmount,DuePayment) "
+      "VALUES('OP-1','Rechnung','R1',100,5,42,60.5,'2024-06-15 00:00:00')");
   const QJsonObject posten = json({u"posten"_qs, u"R1"_qs});
   EXPECT_EQ(posten[u"posten"_qs].toString(), u"OP-1"_qs);
   EXPECT_EQ(posten[u"offen"_qs].toDouble(), 60.5);
@@ -157,7 +126,7 @@ TEST(Zahlungsbefehle_Test, Versandkosten_und_Posten) {
   EXPECT_EQ(json({u"posten"_qs, u"R2"_qs})[u"offen"_qs].toDouble(), 80.0);
   EXPECT_TRUE(json({u"posten"_qs, u"R2"_qs})[u"posten"_qs].isNull());
   EXPECT_EQ(l.Starten("posten R9").Ausgang, 1);
-  EXPECT_EQ(Launcher::Roh_lesen(mdb, "SELECT COUNT(*) FROM OpenItems"), QStringList{u"1"_qs});
+  EXPECT_EQ(l.Zeilen("SELECT COUNT(*) FROM OpenItems"), u"1"_qs);
 }
 
 }  // namespace

@@ -38,19 +38,18 @@ class frmSchirm_Test : public ::testing::TestWithParam<const char *> {
     for (const char *wort : Worte) worte << QString::fromUtf8(wort);
     return Launcher_starten(Befehlszeile_lesen(worte));
   }
-  static QString Projekt() { return Einstellung("project"); }
   static QString Einstellung(const char *Schluessel) {
     ::testing::internal::CaptureStdout();
     EXPECT_EQ(Starten({"einstellung", "lesen", "Marklink", Schluessel}), 0);
     return QString::fromStdString(::testing::internal::GetCapturedStdout()).trimmed();
   }
   static void Projekt_eintragen(QWidget &Fenster) {
-    EXPECT_EQ(Fenster.objectName(), QStringLiteral("frmEinstellungen"));
-    QTest::keyClicks(&Kind<QLineEdit>(Fenster, u"txtProjektbezeichnung"), QStringLiteral("Laden"));
-    QTest::mouseClick(&Kind<QPushButton>(Fenster, u"cmdOK"), Qt::LeftButton);
+    EXPECT_EQ(Fenster.objectName(), u"frmEinstellungen"_qs);
+    Tippen(Fenster, u"txtProjektbezeichnung", u"Laden"_qs);
+    Klick(Fenster, u"cmdOK");
   }
   static void Hinweis_bestaetigen(QWidget &Fenster) {
-    EXPECT_EQ(Fenster.objectName(), QStringLiteral("Meldung"));
+    EXPECT_EQ(Fenster.objectName(), u"Meldung"_qs);
     QTest::keyClick(&Fenster, Qt::Key_Return);
   }
 
@@ -65,9 +64,6 @@ class frmSchirm_Test : public ::testing::TestWithParam<const char *> {
   static void Einstellen(const char *Abschnitt, const char *Schluessel, const char *Wert) {
     EXPECT_EQ(Starten({"einstellung", "schreiben", Abschnitt, Schluessel, Wert}), 0);
   }
-  static void Klick(QWidget &Fenster, const char16_t *Knopf) {
-    QTest::mouseClick(&Kind<QWidget>(Fenster, Knopf), Qt::LeftButton);
-  }
 
   Modale_Schritte Schritte;
 
@@ -79,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(Typ, frmSchirm_Test, ::testing::Values("0", "1"));
 TEST_P(frmSchirm_Test, Einstellungen_auch_ohne_Projekt) {
   Schritte.Dann(&Projekt_eintragen);
   EXPECT_EQ(Starten({"schirm", "Einstellungen"}), 0);
-  EXPECT_EQ(Projekt(), QStringLiteral("Laden"));
+  EXPECT_EQ(Einstellung("project"), u"Laden"_qs);
 }
 
 TEST_P(frmSchirm_Test, Auftragsverwaltung_fragt_erst_nach_dem_Projekt) {
@@ -87,20 +83,19 @@ TEST_P(frmSchirm_Test, Auftragsverwaltung_fragt_erst_nach_dem_Projekt) {
   Schritte.Dann([](QWidget &F) { QTest::keyClick(&F, Qt::Key_Escape); });
   Schritte.Dann(&Hinweis_bestaetigen);
   EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 1);
-  EXPECT_EQ(Projekt(), QString());
+  EXPECT_EQ(Einstellung("project"), QString());
 }
 
 TEST_P(frmSchirm_Test, F1_zeigt_die_Seite_des_Fensters) {
   Schritte.Dann([](QWidget &einstellungen) {
-    EXPECT_EQ(Hilfeseite_nach_F1(einstellungen), QStringLiteral("einstellungen.html"));
+    EXPECT_EQ(Hilfeseite_nach_F1(einstellungen), u"einstellungen.html"_qs);
     Projekt_eintragen(einstellungen);
   });
   EXPECT_EQ(Starten({"schirm", "einstellungen"}), 0);
   Schritte.Dann([this](QWidget &pult) {
-    EXPECT_EQ(Hilfeseite_nach_F1(pult), QStringLiteral("auftragsverwaltung.html"));
-    Schritte.Dann([](QWidget &liste) {
-      EXPECT_EQ(Hilfeseite_nach_F1(liste), QStringLiteral("listen.html#kundengruppen"));
-    });
+    EXPECT_EQ(Hilfeseite_nach_F1(pult), u"auftragsverwaltung.html"_qs);
+    Schritte.Dann(
+        [](QWidget &liste) { EXPECT_EQ(Hilfeseite_nach_F1(liste), u"listen.html#kundengruppen"_qs); });
     Kind<QAction>(pult, u"einstellungen_kundengruppen").trigger();
   });
   EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 0);
@@ -111,11 +106,11 @@ TEST_P(frmSchirm_Test, Einstellungen_Listen_und_Tabelle_vom_Pult_aus) {
   Einstellen("Program", "Finalize", "1");
   Schritte.Dann([this](QWidget &pult) {
     Schritte.Dann([](QWidget &fenster) {
-      QTest::keyClicks(&Kind<QLineEdit>(fenster, u"txtHostname"), QStringLiteral("neu.laden.de"));
+      Tippen(fenster, u"txtHostname", u"neu.laden.de"_qs);
       Klick(fenster, u"cmdOK");
     });
     Klick(pult, u"Einstellung");
-    EXPECT_TRUE(Kontext.gHostname.contains(QStringLiteral("neu.laden.de"))) << "holds for the next fetch";
+    EXPECT_TRUE(Kontext.gHostname.contains(u"neu.laden.de"_qs)) << "holds for the next fetch";
 
     auto &stati = Kind<QTreeWidget>(pult, u"lvwAuftragsstatus");
     const int vorher = stati.topLevelItemCount();
@@ -124,13 +119,13 @@ TEST_P(frmSchirm_Test, Einstellungen_Listen_und_Tabelle_vom_Pult_aus) {
       auto &gitter = Kind<QTableView>(fenster, u"jgTab");
       QTest::mouseClick(gitter.viewport(), Qt::LeftButton, {},
                         Mitte(gitter, gitter.model()->rowCount() - 1, 0));
-      for (const QChar zeichen : QStringLiteral("Retoure"))
+      for (const QChar zeichen : u"Retoure"_qs)
         QTest::keyClicks(QApplication::focusWidget(), QString(zeichen));
       Klick(fenster, u"cmdOK");
     });
     Kind<QAction>(pult, u"einstellungen_auftragsstati").trigger();
     EXPECT_EQ(stati.topLevelItemCount(), vorher + 1);
-    EXPECT_EQ(stati.findItems(QStringLiteral("Retoure"), Qt::MatchExactly).size(), 1);
+    EXPECT_EQ(stati.findItems(u"Retoure"_qs, Qt::MatchExactly).size(), 1);
 
     Schritte.Dann([](QWidget &fenster) {
       QTest::keyClick(&Kind<QTreeWidget>(fenster, u"lvwTabelle"), Qt::Key_End);
@@ -144,7 +139,7 @@ TEST_P(frmSchirm_Test, Einstellungen_Listen_und_Tabelle_vom_Pult_aus) {
 
     for (const bool ja : {false, true}) {
       Schritte.Dann([ja](QWidget &frage) {
-        EXPECT_EQ(frage.windowTitle(), QStringLiteral("Beenden"));
+        EXPECT_EQ(frage.windowTitle(), u"Beenden"_qs);
         QTest::keyClick(&frage, ja ? Qt::Key_Return : Qt::Key_Escape);
       });
       Klick(pult, u"Beenden");
@@ -152,7 +147,7 @@ TEST_P(frmSchirm_Test, Einstellungen_Listen_und_Tabelle_vom_Pult_aus) {
     }
   });
   EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 0);
-  EXPECT_EQ(Einstellung("hostname"), QStringLiteral("neu.laden.de"));
+  EXPECT_EQ(Einstellung("hostname"), u"neu.laden.de"_qs);
 }
 
 TEST_P(frmSchirm_Test, Versandliste_schliesst_auch_das_Pult) {
@@ -160,9 +155,9 @@ TEST_P(frmSchirm_Test, Versandliste_schliesst_auch_das_Pult) {
   Einstellen("Program", "Finalize", "0");
   Schritte.Dann([this](QWidget &pult) {
     Schritte.Dann([this, &pult](QWidget &liste) {
-      EXPECT_EQ(liste.windowTitle(), QStringLiteral("Versand: EASYLOG"));
+      EXPECT_EQ(liste.windowTitle(), u"Versand: EASYLOG"_qs);
       Schritte.Dann([](QWidget &fenster) {
-        QTest::keyClicks(&Kind<QLineEdit>(fenster, u"txtEKPNummer"), QStringLiteral("5012345678"));
+        Tippen(fenster, u"txtEKPNummer", u"5012345678"_qs);
         Klick(fenster, u"cmdOK");
       });
       Klick(liste, u"Einstellungen");
@@ -179,7 +174,7 @@ TEST_P(frmSchirm_Test, Versandliste_schliesst_auch_das_Pult) {
   });
   EXPECT_EQ(Starten({"schirm", "auftragsverwaltung"}), 0);
   Schritte.Dann([](QWidget &fenster) {
-    EXPECT_EQ(Kind<QLineEdit>(fenster, u"txtEKPNummer").text(), QStringLiteral("5012345678"));
+    EXPECT_EQ(Kind<QLineEdit>(fenster, u"txtEKPNummer").text(), u"5012345678"_qs);
     QTest::keyClick(&fenster, Qt::Key_Escape);
   });
   EXPECT_EQ(Starten({"schirm", "versand_einstellungen"}), 0);
@@ -193,10 +188,10 @@ TEST_P(frmSchirm_Test, das_Pult_ueberlebt_das_Objekt_des_Hosts) {
     objekt = marklink_common_erzeugen();
     EXPECT_EQ(&dialoge(), &eigene) << "a host's own dialogs are not replaced";
   }
-  ASSERT_TRUE(objekt->Initialisierung(QStringLiteral("Test"), QStringLiteral("Chef")));
+  ASSERT_TRUE(objekt->Initialisierung(u"Test"_qs, u"Chef"_qs));
   Schritte.Dann([&](QWidget &pult) {
-    EXPECT_FALSE(objekt->Initialisierung(QStringLiteral("Andere"), QStringLiteral("Chef")));
-    EXPECT_EQ(Kontext.gFirmenname, QStringLiteral("Test"));
+    EXPECT_FALSE(objekt->Initialisierung(u"Andere"_qs, u"Chef"_qs));
+    EXPECT_EQ(Kontext.gFirmenname, u"Test"_qs);
     marklink_common_freigeben(objekt);
     Schritte.Dann(&Hinweis_bestaetigen);  // nothing is marked
     Kind<QAction>(pult, u"Rechnung").trigger();

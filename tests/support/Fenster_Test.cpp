@@ -3,11 +3,13 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QPalette>
 #include <QTimer>
 #include <deque>
 
 #include "ui/Fortschritt.h"
+#include "ui/Hilfe.h"
 
 namespace marklink::test {
 
@@ -15,6 +17,8 @@ namespace {
 
 constexpr int Blick_ms = 5;
 constexpr int Geduld_ms = 10'000;
+
+int Gezeigtes_Thema = 0;
 
 QPalette Dunkle_Palette() {
   QPalette p(QColor(53, 53, 53));
@@ -92,10 +96,45 @@ void Bild_machen(QWidget &Fenster, const QString &Name) {
     Palette_setzen(dunkel);
     Fenster.show();
     QTest::qWait(50);
-    const QString datei = QStringLiteral("%1/%2_%3.png")
-                              .arg(ordner, Name, dunkel ? QStringLiteral("dunkel") : QStringLiteral("hell"));
+    const QString datei = u"%1/%2_%3.png"_qs.arg(ordner, Name, dunkel ? u"dunkel"_qs : u"hell"_qs);
     EXPECT_TRUE(Fenster.grab().save(datei)) << datei.toStdString();
   }
 }
+
+void Klick(QWidget &Fenster, const char16_t *Name) {
+  QTest::mouseClick(&Kind<QWidget>(Fenster, Name), Qt::LeftButton);
+}
+
+void Tippen(QWidget &Fenster, const char16_t *Feld, const QString &Text) {
+  auto &feld = Kind<QLineEdit>(Fenster, Feld);
+  feld.setFocus();
+  QTest::qWait(0);  // the focus selects the old text, which typing replaces
+  QTest::keyClicks(&feld, Text);
+}
+
+void Kleiner_Bildschirm(const std::function<QWidget &()> &Oeffnen, const QString &Name) {
+  const QFont vorher = QApplication::font();
+  QFont gross = vorher;
+  gross.setPointSize(12);
+  QApplication::setFont(gross);
+  QWidget &fenster = Oeffnen();
+  const QSize platz(853, 500);  // 1280x800 at 150 %, without the title bar
+  fenster.resize(platz);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(fenster.size(), platz) << "its least size is larger";
+  EXPECT_LE(fenster.minimumSizeHint().width(), platz.width());
+  EXPECT_LE(fenster.minimumSizeHint().height(), platz.height());
+  Bild_machen(fenster, Name + QStringLiteral("_klein"));
+  QApplication::setFont(vorher);
+}
+
+Hilfe_Skript::Hilfe_Skript() {
+  Gezeigtes_Thema = 0;
+  Hilfe_setzen([](int Thema) { Gezeigtes_Thema = Thema; });
+}
+
+Hilfe_Skript::~Hilfe_Skript() { Hilfe_setzen(nullptr); }
+
+int Hilfe_Skript::Thema() { return std::exchange(Gezeigtes_Thema, 0); }
 
 }  // namespace marklink::test

@@ -53,6 +53,27 @@ void Bild_machen(QWidget &Fenster, const QString &Name);
 /// Shows the window and waits until it is painted and active: only then do keys go where the focus is.
 void Zeigen(QWidget &Fenster);
 
+/// A click on the child of that name.
+void Klick(QWidget &Fenster, const char16_t *Name);
+
+/// Types as one does who comes into a text field: what stood there is replaced.
+void Tippen(QWidget &Fenster, const char16_t *Feld, const QString &Text);
+
+/// With letters of 12 points for the whole program the window that is opened must fit on a screen of 1280x800
+/// at 150 %. Saves its picture "<Name>_klein".
+void Kleiner_Bildschirm(const std::function<QWidget &()> &Oeffnen, const QString &Name);
+
+/// While it lives help is not shown, but kept in mind.
+class Hilfe_Skript {
+ public:
+  Hilfe_Skript();
+  ~Hilfe_Skript();
+  Hilfe_Skript(const Hilfe_Skript &) = delete;
+  Hilfe_Skript &operator=(const Hilfe_Skript &) = delete;
+  /// The topic that was asked for since the last call; 0: none.
+  static int Thema();
+};
+
 /// Centre of an item view's cell, for QTest::mouseClick on its viewport.
 template <typename Ansicht>
 QPoint Mitte(const Ansicht &A, int Zeile, int Spalte) {
