@@ -143,12 +143,10 @@ class Shop:
         """The reply's root element."""
         return ET.fromstring(self.raw(f"action={action}&user={user}&password={password}{rest}")[2])
 
-    def message(self, action, rest="", **login):
+    def answer(self, action, rest="", **login):
+        """Message and error mark of a status reply; of another one its root element's name."""
         root = self.ask(action, rest, **login)
-        return root.findtext("STATUS_DATA/MESSAGE") if root.tag == "STATUS" else root.tag
-
-    def error(self, action, rest="", **login):
-        return self.ask(action, rest, **login).findtext("STATUS_DATA/ERROR")
+        return (root.findtext("STATUS_DATA/MESSAGE"), root.findtext("STATUS_DATA/ERROR")) if root.tag == "STATUS" else root.tag
 
     def dump(self):
         return "\n".join(self.db.iterdump())
