@@ -15,72 +15,36 @@ Verbindungsauftrag Letzter_Auftrag;
 
 TEST_F(Aktionen_Test, jeder_Selektor) {
   // By selector; "+" behind a name: parameters go along; "-": no request of its own.
-  const QByteArray abrufen[] = {"get_version",
-                                "get_categories",
-                                "-",
-                                "get_customers+",
-                                "get_products+",
-                                "get_orders+",
-                                "get_languages",
-                                "-",
-                                "get_shop_configuration",
-                                "get_shipping_status",
-                                "get_customers_status",
-                                "get_orders_status",
-                                "get_products_specials",
-                                "get_products_stockings+",
-                                "get_products_vpe",
-                                "get_products_categories+",
-                                "get_products_list+",
-                                "-"};
-  const QByteArray uebertragen[] = {"set_categories+",
-                                    "-",
-                                    "set_products+",
-                                    "set_customers_status+",
-                                    "set_orders_status+",
-                                    "set_shipping_status+",
-                                    "set_products_options+",
-                                    "set_products_options_values+",
-                                    "set_products_attributes+",
-                                    "set_products_personal_offers+",
-                                    "set_languages+",
-                                    "set_products_images+",
-                                    "set_products_descriptions+",
-                                    "set_categories_descriptions+",
-                                    "set_products_specials+",
-                                    "set_products_stockvalues+",
-                                    "set_products_variants_stockvalues+",
-                                    "set_products_attributmatrix+",
-                                    "set_products_vpe+",
-                                    "set_products_categories+",
-                                    "set_products_defaultimage+",
-                                    "set_products_list+",
-                                    "-"};
-  const QByteArray aendern[] = {"del_categories+",
-                                "del_categories_all",
-                                "set_order_update+",
-                                "del_customers_status+",
-                                "del_customers_status_all",
-                                "del_orders_status+",
-                                "del_orders_status_all",
-                                "del_shipping_status+",
-                                "del_shipping_status_all",
-                                "del_products+",
-                                "get_products_exists+",
-                                "del_languages+",
-                                "del_languages_all",
-                                "del_products_specials+",
-                                "del_products_specials_all",
-                                "update_tables",
-                                "del_products_vpe+",
-                                "del_products_vpe_all",
-                                "del_products_categories+",
-                                "del_products_categories_all",
-                                "-"};
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{test::Kurzes_XML}; });
+  const QByteArrayList abrufen =
+      QByteArray(
+          "get_version get_categories - get_customers+ get_products+ get_orders+ get_languages - "
+          "get_shop_configuration get_shipping_status get_customers_status get_orders_status "
+          "get_products_specials get_products_stockings+ get_products_vpe get_products_categories+ "
+          "get_products_list+ -")
+          .split(' ');
+  const QByteArrayList uebertragen =
+      QByteArray(
+          "set_categories+ - set_products+ set_customers_status+ set_orders_status+ "
+          "set_shipping_status+ set_products_options+ set_products_options_values+ "
+          "set_products_attributes+ set_products_personal_offers+ set_languages+ "
+          "set_products_images+ set_products_descriptions+ set_categories_descriptions+ "
+          "set_products_specials+ set_products_stockvalues+ set_products_variants_stockvalues+ "
+          "set_products_attributmatrix+ set_products_vpe+ set_products_categories+ "
+          "set_products_defaultimage+ set_products_list+ -")
+          .split(' ');
+  const QByteArrayList aendern =
+      QByteArray(
+          "del_categories+ del_categories_all set_order_update+ del_customers_status+ "
+          "del_customers_status_all del_orders_status+ del_orders_status_all del_shipping_status+ "
+          "del_shipping_status_all del_products+ get_products_exists+ del_languages+ "
+          "del_languages_all del_products_specials+ del_products_specials_all update_tables "
+          "del_products_vpe+ del_products_vpe_all del_products_categories+ "
+          "del_products_categories_all -")
+          .split(' ');
+  Immer({test::Kurzes_XML});
   const QByteArray login = "&user=u&password=0123456789abcdef0123456789abcdef";
   QByteArray vorige = "GET /vorher HTTP/1.1";
-  gAktion_Url = QStringLiteral("/vorher");
+  gAktion_Url = u"/vorher"_qs;
   const auto pruefen = [&](const QByteArray &erwartet, const QString &ergebnis) {
     if (erwartet != "-") {
       const bool mit = erwartet.endsWith('+');
@@ -92,16 +56,16 @@ TEST_F(Aktionen_Test, jeder_Selektor) {
     EXPECT_EQ(kopf.left(kopf.indexOf('\r')).toStdString(), vorige.toStdString());
     EXPECT_EQ(ergebnis, Antwortdatei());
   };
-  const QString p1 = QStringLiteral("&a=1"), p2 = QStringLiteral("&b=2");
-  for (qint16 i = 0; i < std::ssize(abrufen); ++i) pruefen(abrufen[i], Daten_abrufen(i, p1 + p2));
-  for (qint16 i = 0; i < std::ssize(uebertragen); ++i) pruefen(uebertragen[i], Daten_uebertragen(i, p1, p2));
-  for (qint16 i = 0; i < std::ssize(aendern); ++i) pruefen(aendern[i], Daten_aendern(i, p1 + p2));
+  const QString p1 = u"&a=1"_qs, p2 = u"&b=2"_qs;
+  for (qint16 i = 0; i < abrufen.size(); ++i) pruefen(abrufen[i], Daten_abrufen(i, p1 + p2));
+  for (qint16 i = 0; i < uebertragen.size(); ++i) pruefen(uebertragen[i], Daten_uebertragen(i, p1, p2));
+  for (qint16 i = 0; i < aendern.size(); ++i) pruefen(aendern[i], Daten_aendern(i, p1 + p2));
   pruefen("-", Daten_abrufen(-1, p1));
   EXPECT_EQ(Shop.Verbindungen(), 1);
 }
 
 TEST_F(Aktionen_Test, Selektoren_die_nur_den_Namen_setzen) {
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{test::Kurzes_XML}; });
+  Immer({test::Kurzes_XML});
   Daten_abrufen(Abrufen::Sprachen, {});
   const QString vorher = gAktion_Url;
   const struct {
@@ -124,8 +88,8 @@ TEST_F(Aktionen_Test, ohne_vorige_Anfrage_geht_nichts_hinaus) {
 }
 
 TEST_F(Aktionen_Test, Auftrag_an_das_Verbindungsfenster) {
-  Kontext.gHtaccessUsername = QStringLiteral("dir");
-  Kontext.gHtaccessPassword = QStringLiteral("geheim");
+  Kontext.gHtaccessUsername = u"dir"_qs;
+  Kontext.gHtaccessPassword = u"geheim"_qs;
   Verbindungsfenster_setzen([](Verbindungsauftrag &a) { Letzter_Auftrag = a; });
   const struct {
     QString (*Rufen)();
@@ -141,8 +105,8 @@ TEST_F(Aktionen_Test, Auftrag_an_das_Verbindungsfenster) {
   Verbindungsfenster_setzen(nullptr);
   EXPECT_EQ(Letzter_Auftrag.URL, gAktion_Url);
   EXPECT_EQ(Letzter_Auftrag.xmlDatei, Antwortdatei());
-  EXPECT_EQ(Letzter_Auftrag.Verzeichnisschutz_Benutzername, QStringLiteral("dir"));
-  EXPECT_EQ(Letzter_Auftrag.Verzeichnisschutz_Passwort, QStringLiteral("geheim"));
+  EXPECT_EQ(Letzter_Auftrag.Verzeichnisschutz_Benutzername, u"dir"_qs);
+  EXPECT_EQ(Letzter_Auftrag.Verzeichnisschutz_Passwort, u"geheim"_qs);
 }
 
 TEST_F(Aktionen_Test, Antwortdatei_bleibt_im_temporaeren_Ordner) {

@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
+
+#include "support/Testdateien.h"
 
 namespace marklink {
 namespace {
@@ -12,10 +13,8 @@ namespace {
 class Antwort_Test : public ::testing::Test {
  protected:
   QString Datei(const QByteArray &Inhalt) const {
-    const QString pfad = Ordner.filePath(QStringLiteral("antwort.xml"));
-    QFile datei(pfad);
-    EXPECT_TRUE(datei.open(QIODevice::WriteOnly));
-    datei.write(Inhalt);
+    const QString pfad = Ordner.filePath(u"antwort.xml"_qs);
+    test::Datei_schreiben(pfad, Inhalt);
     return pfad;
   }
   /// "A" of a document with this root; "(kein XML)" when it could not be loaded.
@@ -75,7 +74,7 @@ TEST_F(Antwort_Test, kein_XML_behaelt_nichts) {
   for (const char *inhalt : {"Fatal error: out of memory", "<html><body>503</html>", "<R><A>x</R></A>"})
     EXPECT_EQ(Text(inhalt), "(kein XML)") << inhalt;
   pugi::xml_document dokument;
-  EXPECT_FALSE(Antwort_laden(QStringLiteral("/gibt/es/nicht.xml"), dokument));
+  EXPECT_FALSE(Antwort_laden(u"/gibt/es/nicht.xml"_qs, dokument));
   EXPECT_FALSE(Antwort_laden(Ordner.path(), dokument));
 }
 
@@ -87,11 +86,8 @@ TEST_F(Antwort_Test, zu_grosse_Datei_wird_nicht_gelesen) {
 }
 
 TEST_F(Antwort_Test, fremde_Entitaeten_werden_nicht_aufgeloest) {
-  const QString geheim = Ordner.filePath(QStringLiteral("geheim"));
-  QFile datei(geheim);
-  ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
-  datei.write("GEHEIM");
-  datei.close();
+  const QString geheim = Ordner.filePath(u"geheim"_qs);
+  test::Datei_schreiben(geheim, "GEHEIM");
   const QByteArray text =
       "<!DOCTYPE R [<!ENTITY x SYSTEM \"file://" + geheim.toLocal8Bit() +
       "\"><!ENTITY y \"&z;&z;&z;\"><!ENTITY z \"lang\">]><R><A>a&x;&y;&amp;&#252;</A></R>";
@@ -125,7 +121,7 @@ TEST_F(Antwort_Test, Statusantwort) {
   const QString pfad = Datei(
       "<?xml version=\"1.0\"?><STATUS><STATUS_DATA><MESSAGE>OK &amp; gut</MESSAGE></STATUS_DATA>"
       "<STATUS_DATA><MESSAGE>zweite</MESSAGE><ERROR>0</ERROR></STATUS_DATA></STATUS>");
-  EXPECT_EQ(Statusantwort_lesen(pfad, "MESSAGE"), QStringLiteral("OK & gut"));
+  EXPECT_EQ(Statusantwort_lesen(pfad, "MESSAGE"), u"OK & gut"_qs);
   EXPECT_EQ(Statusantwort_lesen(pfad, "ERROR"), QString());  // only the first STATUS_DATA counts
   EXPECT_EQ(Statusantwort_lesen(Datei("<STATUS/>"), "MESSAGE"), QString());
   EXPECT_EQ(Statusantwort_lesen(Datei(""), "MESSAGE"), QString());

@@ -15,6 +15,8 @@ namespace {
 
 using Austausch_Test = test::Shop_Test;
 using test::Alter_Inhalt;
+using test::Datei_lesen;
+using test::Datei_schreiben;
 using test::Kurzes_XML;
 using test::Shop_Antwort;
 using test::Unart;
@@ -49,14 +51,14 @@ TEST_F(Austausch_Test, was_die_Antwortdatei_behaelt) {
       {"", ""},
       {"Fatal error: <?xml encoding", ""},
   };
-  Schreiben(Antwortdatei(), Alter_Inhalt.repeated(20));
+  Datei_schreiben(Antwortdatei(), Alter_Inhalt.repeated(20));
   for (const auto &fall : faelle) {  // each over the longer or shorter one before
     SCOPED_TRACE(fall.Rumpf.toStdString());
-    Shop.Skript_setzen([&](const QByteArray &) { return Shop_Antwort{fall.Rumpf}; });
+    Immer({fall.Rumpf});
     EXPECT_EQ(Bestellungen(), Antwortdatei());
-    EXPECT_EQ(Lesen(Antwortdatei()).toStdString(), fall.Datei.toStdString());
+    EXPECT_EQ(Datei_lesen(Antwortdatei()).toStdString(), fall.Datei.toStdString());
   }
-  EXPECT_EQ(Dateien(), QStringList{QStringLiteral("antwort.xml")});
+  EXPECT_EQ(Dateien(), QStringList{u"antwort.xml"_qs});
 }
 
 TEST_F(Austausch_Test, Fehlschlag_laesst_die_alte_Antwort_stehen) {
@@ -82,32 +84,30 @@ TEST_F(Austausch_Test, Fehlschlag_laesst_die_alte_Antwort_stehen) {
       {"not packed", {Kurzes_XML, 200, {"Content-Encoding: deflate"}}},
       {"unknown packing", {Kurzes_XML, 200, {"Content-Encoding: rar"}}},
   };
-  Schreiben(Antwortdatei(), Alter_Inhalt);
+  Datei_schreiben(Antwortdatei(), Alter_Inhalt);
   for (const auto &fall : faelle) {
     SCOPED_TRACE(fall.Name);
     Shop.Vergessen();
-    Shop.Skript_setzen([&](const QByteArray &) { return fall.Antwort; });
+    Immer(fall.Antwort);
     EXPECT_EQ(Bestellungen(), QString());
-    EXPECT_EQ(Lesen(Antwortdatei()), Alter_Inhalt);
+    EXPECT_EQ(Datei_lesen(Antwortdatei()), Alter_Inhalt);
     for (const QByteArray &kopf : Shop.Anfragen()) EXPECT_FALSE(kopf.contains("/anderswo"));
   }
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{Kurzes_XML}; });
+  Immer({Kurzes_XML});
   EXPECT_EQ(Bestellungen(), Antwortdatei()) << "the next exchange has to work again";
 }
 
 TEST_F(Austausch_Test, gepackte_Antwort) {
   const QByteArray zlib = qCompress(Kurzes_XML).mid(4);
   for (const QByteArray &gepackt : {zlib, zlib.mid(2).chopped(4)}) {  // with and without the zlib frame
-    Shop.Skript_setzen([&](const QByteArray &) {
-      return Shop_Antwort{gepackt, 200, {"Content-Encoding: deflate"}};
-    });
+    Immer({gepackt, 200, {"Content-Encoding: deflate"}});
     EXPECT_EQ(Bestellungen(), Antwortdatei());
-    EXPECT_EQ(Lesen(Antwortdatei()).toStdString(), (Kurzes_XML + "\r\n").toStdString());
+    EXPECT_EQ(Datei_lesen(Antwortdatei()).toStdString(), (Kurzes_XML + "\r\n").toStdString());
   }
 }
 
 TEST_F(Austausch_Test, Server_nicht_erreichbar) {
-  Schreiben(Antwortdatei(), Alter_Inhalt);
+  Datei_schreiben(Antwortdatei(), Alter_Inhalt);
   quint16 frei = 0;
   {
     const test::Shop_Attrappe kurz;
@@ -119,13 +119,7 @@ TEST_F(Austausch_Test, Server_nicht_erreichbar) {
     Kontext.gHostname = QLatin1String(host);
     EXPECT_EQ(Bestellungen(), QString()) << host;
   }
-  EXPECT_EQ(Lesen(Antwortdatei()), Alter_Inhalt);
-}
-
-TEST_F(Austausch_Test, eine_Verbindung_fuer_viele_Abrufe) {
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{Kurzes_XML}; });
-  for (int i = 0; i < 5; ++i) EXPECT_EQ(Bestellungen(), Antwortdatei());
-  EXPECT_EQ(Shop.Verbindungen(), 1);
+  EXPECT_EQ(Datei_lesen(Antwortdatei()), Alter_Inhalt);
 }
 
 TEST_F(Austausch_Test, Anmeldung_nur_auf_Verlangen) {
@@ -142,7 +136,7 @@ TEST_F(Austausch_Test, Anmeldung_nur_auf_Verlangen) {
   } faelle[] = {{"WWW-Authenticate: Basic realm=\"Shop\"", u"jörg", "Authorization: Basic avZyZzpwOnc=\r\n"},
                 {"WWW-Authenticate: Basic realm=\"Shop\"", u"", nullptr},
                 {"WWW-Authenticate: Digest realm=\"Shop\", nonce=\"1\"", u"jörg", nullptr}};
-  Kontext.gHtaccessPassword = QStringLiteral("p:w");
+  Kontext.gHtaccessPassword = u"p:w"_qs;
   for (const auto &fall : faelle) {
     SCOPED_TRACE(fall.Aufforderung);
     Kontext.gHtaccessUsername = QString::fromUtf16(fall.Benutzer);
@@ -158,15 +152,15 @@ TEST_F(Austausch_Test, Anmeldung_nur_auf_Verlangen) {
     }
     EXPECT_LE(Shop.Verbindungen(), 1);
   }
-  Kontext.gHtaccessUsername = QStringLiteral("dir");
+  Kontext.gHtaccessUsername = u"dir"_qs;
   Shop.Vergessen();
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{Kurzes_XML}; });
+  Immer({Kurzes_XML});
   Bestellungen();
   EXPECT_FALSE(Shop.Anfragen()[0].contains("Authorization"));
 }
 
 TEST_F(Austausch_Test, eine_Einstellung_kann_keine_Anfrage_spalten) {
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{Kurzes_XML}; });
+  Immer({Kurzes_XML});
   for (QString *wert : {&Kontext.gUsername, &Kontext.gUrl, &Kontext.gHostname, &Kontext.gPort})
     for (const char16_t *boese : {u"\r\nX: 1", u"\n\nGET / HTTP/1.1\r\n", u"a\rb", u"a\tb"}) {
       const QString vorher = *wert;
@@ -178,26 +172,26 @@ TEST_F(Austausch_Test, eine_Einstellung_kann_keine_Anfrage_spalten) {
 }
 
 TEST_F(Austausch_Test, was_in_keiner_Anfragezeile_stehen_darf_geht_verschluesselt_hinaus) {
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{Kurzes_XML}; });
-  Kontext.gUsername = QStringLiteral("Jörg #1");
-  EXPECT_EQ(Daten_abrufen(Abrufen::Bestellungen, QStringLiteral("&order_status='1','3'")), Antwortdatei());
+  Immer({Kurzes_XML});
+  Kontext.gUsername = u"Jörg #1"_qs;
+  EXPECT_EQ(Daten_abrufen(Abrufen::Bestellungen, u"&order_status='1','3'"_qs), Antwortdatei());
   EXPECT_TRUE(Shop.Anfragen()[0].startsWith(
       "GET /shop/marklink.php?action=get_orders&user=J%F6rg%20%231&password=0123456789abcdef0123456789abcdef"
       "&order_status='1','3' HTTP/1.1\r\n"));
-  EXPECT_TRUE(gAktion_Url.contains(QStringLiteral("&user=Jörg #1&")));
+  EXPECT_TRUE(gAktion_Url.contains(u"&user=Jörg #1&"_qs));
 }
 
 TEST_F(Austausch_Test, Antwortdatei_gehoert_nur_dem_Eigner) {
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{Kurzes_XML}; });
-  const QString opfer = Ordner.filePath(QStringLiteral("opfer"));
+  Immer({Kurzes_XML});
+  const QString opfer = Ordner.filePath(u"opfer"_qs);
   const QByteArray von = QFile::encodeName(opfer), nach = QFile::encodeName(Antwortdatei());
-  Schreiben(opfer, Alter_Inhalt);
+  Datei_schreiben(opfer, Alter_Inhalt);
   QFile::setPermissions(opfer, QFile::ReadOwner | QFile::WriteOwner);
   for (const auto verweisen : {&::symlink, &::link}) {  // to a file that we could write to
     QFile::remove(Antwortdatei());
     ASSERT_EQ(verweisen(von.constData(), nach.constData()), 0);
     EXPECT_EQ(Bestellungen(), Antwortdatei());
-    EXPECT_EQ(Lesen(opfer), Alter_Inhalt);
+    EXPECT_EQ(Datei_lesen(opfer), Alter_Inhalt);
   }
   struct stat lage {};
   ASSERT_EQ(::lstat(nach.constData(), &lage), 0);
@@ -212,11 +206,11 @@ TEST_F(Austausch_Test, Antwortdatei_gehoert_nur_dem_Eigner) {
   QFile::remove(Antwortdatei());
   ASSERT_TRUE(QDir().mkdir(Antwortdatei()));
   EXPECT_EQ(Bestellungen(), QString());
-  EXPECT_EQ(Dateien(), QStringList{QStringLiteral("opfer")}) << "nothing may be left over";
+  EXPECT_EQ(Dateien(), QStringList{u"opfer"_qs}) << "nothing may be left over";
 }
 
 TEST_F(Austausch_Test, Umgebung_leitet_nicht_um) {
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{Kurzes_XML}; });
+  Immer({Kurzes_XML});
   for (const char *name : {"http_proxy", "all_proxy"}) qputenv(name, "http://127.0.0.1:1");
   EXPECT_EQ(Bestellungen(), Antwortdatei());
   for (const char *name : {"http_proxy", "all_proxy"}) qunsetenv(name);
@@ -240,22 +234,22 @@ class Anzeige_Skript : public Verbindungsanzeige {
 
 TEST_F(Austausch_Test, Anzeige_und_Abbruch) {
   Verbindungsauftrag auftrag;
-  auftrag.Host = QStringLiteral("127.0.0.1");
+  auftrag.Host = u"127.0.0.1"_qs;
   auftrag.Port = QString::number(Shop.Port());
-  auftrag.URL = QStringLiteral("/x?action=get_orders");
-  auftrag.Header = QStringLiteral("GET /x HTTP/1.1\r\nHost: h\r\n\r\n");
+  auftrag.URL = u"/x?action=get_orders"_qs;
+  auftrag.Header = u"GET /x HTTP/1.1\r\nHost: h\r\n\r\n"_qs;
   auftrag.xmlDatei = Antwortdatei();
-  auftrag.Statustext = QStringLiteral("Moment");
+  auftrag.Statustext = u"Moment"_qs;
   Shop.Antworten("get_orders", Shop_Antwort{Kurzes_XML});
   Anzeige_Skript anzeige;
   Winsock_initialisieren(auftrag, &anzeige);
   EXPECT_EQ(auftrag.Action, 0);
-  EXPECT_EQ(anzeige.Texte, QStringList{QStringLiteral("Moment")});
+  EXPECT_EQ(anzeige.Texte, QStringList{u"Moment"_qs});
   EXPECT_EQ(anzeige.Lampe, std::vector<bool>{true});
   EXPECT_EQ(anzeige.Gesendet, Shop.Anfragen()[0].size());
   EXPECT_GT(anzeige.Empfangen, Kurzes_XML.size());
 
-  Shop.Skript_setzen([](const QByteArray &) { return Shop_Antwort{{}, 200, {}, Unart::Schweigen}; });
+  Immer({{}, 200, {}, Unart::Schweigen});
   Anzeige_Skript ungeduldig;
   ungeduldig.Geduld = 3;
   QElapsedTimer zeit;
@@ -268,13 +262,9 @@ TEST_F(Austausch_Test, Anzeige_und_Abbruch) {
 
 TEST_F(Austausch_Test, Ablaufverfolgung_ohne_Anmeldung_und_Daten) {
   Shop.Antworten("get_orders", Shop_Antwort{"KARTE 4111", 500});
-  Kontext.gHtaccessUsername = QStringLiteral("dir");
-  Kontext.gHtaccessPassword = QStringLiteral("geheim");
-  qputenv("MARKLINK_TRACE", "1");
-  ::testing::internal::CaptureStderr();
-  Daten_abrufen(Abrufen::Bestellungen, QStringLiteral("&comments=privat"));
-  const std::string zeile = ::testing::internal::GetCapturedStderr();
-  qunsetenv("MARKLINK_TRACE");
+  Kontext.gHtaccessUsername = u"dir"_qs;
+  Kontext.gHtaccessPassword = u"geheim"_qs;
+  const std::string zeile = test::Spur([] { Daten_abrufen(Abrufen::Bestellungen, u"&comments=privat"_qs); });
   EXPECT_NE(zeile.find("get_orders: status 500\n"), std::string::npos) << zeile;
   for (const char *wort : {"user", "0123456789abcdef", "privat", "4111", "geheim"})
     EXPECT_EQ(zeile.find(wort), std::string::npos) << wort;

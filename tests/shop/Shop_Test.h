@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "host/Ini.h"
@@ -12,6 +11,7 @@
 #include "shop/Aktionen.h"
 #include "shop/Http_Abruf.h"
 #include "support/Shop_Attrappe.h"
+#include "support/Testdateien.h"
 
 namespace marklink::test {
 
@@ -23,8 +23,8 @@ class Shop_Test : public ::testing::Test {
   Shop_Test() : Tmp_vorher_(qgetenv("TMPDIR")) {
     qputenv("TMPDIR", Ordner.path().toLocal8Bit());
     Kontext = {};
-    Kontext.gHostkonfiguration = Ordner.filePath(QStringLiteral("varda.ini"));
-    Exportdatei_setzen(QStringLiteral("antwort.xml"));
+    Kontext.gHostkonfiguration = Ordner.filePath(u"varda.ini"_qs);
+    Exportdatei_setzen(u"antwort.xml"_qs);
     Shop.Einsetzen();
     gAktion.clear();
     gAktion_Url.clear();
@@ -39,23 +39,18 @@ class Shop_Test : public ::testing::Test {
   }
 
   void Exportdatei_setzen(const QString &Name) const {
-    Ini_schreiben(Kontext.gHostkonfiguration, QStringLiteral("Marklink"), QStringLiteral("exportfile"), Name);
+    Ini_schreiben(Kontext.gHostkonfiguration, u"Marklink"_qs, u"exportfile"_qs, Name);
   }
-  QString Antwortdatei() const { return Ordner.filePath(QStringLiteral("antwort.xml")); }
-  static QByteArray Lesen(const QString &Pfad) {
-    QFile datei(Pfad);
-    return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray("(keine Datei)");
-  }
-  static void Schreiben(const QString &Pfad, const QByteArray &Inhalt) {
-    QFile datei(Pfad);
-    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
-    datei.write(Inhalt);
-  }
+  QString Antwortdatei() const { return Ordner.filePath(u"antwort.xml"_qs); }
   /// Files in the temporary folder besides the configuration.
   QStringList Dateien() const {
     QStringList namen = QDir(Ordner.path()).entryList(QDir::Files | QDir::System, QDir::Name);
-    namen.removeAll(QStringLiteral("varda.ini"));
+    namen.removeAll(u"varda.ini"_qs);
     return namen;
+  }
+  /// The shop says nothing else from now on.
+  void Immer(const Shop_Antwort &Antwort) {
+    Shop.Skript_setzen([Antwort](const QByteArray &) { return Antwort; });
   }
   static QString Bestellungen() { return Daten_abrufen(Abrufen::Bestellungen, {}); }
 

@@ -6,6 +6,7 @@
 #include "host/Kontext.h"
 #include "support/Dialoge_Skript.h"
 #include "support/Komponenten_Attrappe.h"
+#include "support/Testdateien.h"
 #include "support/Testmandant.h"
 
 namespace marklink {
@@ -19,7 +20,7 @@ size_t Feld(const char *Schluessel) {
 }
 
 QString Gespeichert(const char *Schluessel) {
-  return Option_lesen(QStringLiteral("Marklink"), QLatin1String(Schluessel));
+  return Option_lesen(u"Marklink"_qs, QLatin1String(Schluessel));
 }
 
 class Shopeinstellungen_Test : public test::Mandant_Test {
@@ -32,9 +33,8 @@ TEST_P(Shopeinstellungen_Test, jeder_Wert_kommt_an_seinen_Platz_und_nur_zwei_gel
   const Programmkontext vorher = Kontext;
   for (size_t i = 0; i < Einstellungsfelder().size(); ++i) {
     const Feldart art = Einstellungsfelder()[i].Art;
-    Einstellungen.Wert_setzen(i, art == Feldart::Text || art == Feldart::Passwort
-                                     ? QStringLiteral(" Über %1 'x' ").arg(i)
-                                     : QStringLiteral("1"));
+    Einstellungen.Wert_setzen(
+        i, art == Feldart::Text || art == Feldart::Passwort ? u" Über %1 'x' "_qs.arg(i) : u"1"_qs);
   }
   Einstellungen.Einstellungen_speichern();
   Shopeinstellungen gelesen;
@@ -49,13 +49,11 @@ TEST_P(Shopeinstellungen_Test, jeder_Wert_kommt_an_seinen_Platz_und_nur_zwei_gel
 
 TEST_P(Shopeinstellungen_Test, speichert_in_fester_Reihenfolge) {
   if (GetParam() != 0) return;  // a table keeps no order that could be read back
-  Ini_schreiben(Kontext.gAfkDatei = Mandant.Ordner() + QStringLiteral("neu.afk"), QStringLiteral("Marklink"),
-                QStringLiteral("project"), QStringLiteral("vorher"));
+  Ini_schreiben(Kontext.gAfkDatei = Mandant.Ordner() + u"neu.afk"_qs, u"Marklink"_qs, u"project"_qs,
+                u"vorher"_qs);
   Einstellungen.Einstellungen_speichern();
-  QFile datei(Kontext.gAfkDatei);
-  ASSERT_TRUE(datei.open(QIODevice::ReadOnly));
   QByteArray schluessel;
-  for (const QByteArray &zeile : datei.readAll().split('\n'))
+  for (const QByteArray &zeile : test::Datei_lesen(Kontext.gAfkDatei).split('\n'))
     if (zeile.contains('=')) schluessel += zeile.left(zeile.indexOf('=')) + ' ';
   EXPECT_EQ(
       schluessel,
@@ -96,54 +94,45 @@ TEST_P(Shopeinstellungen_Test, Befehle_speichern_erst_und_rufen_den_Host) {
   const Befehl testen = [](Shopeinstellungen &E) { E.Verbindung_testen(); };
   const Befehl laden = [](Shopeinstellungen &E) { E.Script_hochladen(); };
   const Befehl suchen = [](Shopeinstellungen &E) { E.Script_suchen(); };
-  const QString start = QStringLiteral("Initialisierung Test Chef"), ordner = Mandant.Ordner();
-  const QString test = QStringLiteral("FTP_Verbindungstest f u p");
-  const QString script = QStringLiteral("FTP_Upload f u p /web/marklink/ %1web/marklink.php").arg(ordner);
-  const QString da = QStringLiteral("FTP_Datei_exists f u p /web/marklink/ marklink.php");
-  const QString begleiter = QStringLiteral("FTP_Upload f u p /web/marklink/ %1begleiter.php").arg(ordner);
-  const QString gesucht = QStringLiteral("FTP_Datei_exists f u p /web/marklink/ web/marklink.php");
-  const QStringList nicht_geladen{QStringLiteral("Das Script konnte nicht auf den Server geladen werden.")};
-  const QStringList geladen{
-      QStringLiteral("Das Script für Marklink wurde erfolgreich auf den Server geladen.")};
-  const QStringList kein_test{QStringLiteral("Die Verbindung konnte nicht aufgebaut werden."),
-                              QStringLiteral("Bitte überprüfen Sie Ihre Eingaben.")};
+  const QString start = u"Initialisierung Test Chef"_qs, ordner = Mandant.Ordner();
+  const QString test = u"FTP_Verbindungstest f u p"_qs;
+  const QString script = u"FTP_Upload f u p /web/marklink/ %1web/marklink.php"_qs.arg(ordner);
+  const QString da = u"FTP_Datei_exists f u p /web/marklink/ marklink.php"_qs;
+  const QString begleiter = u"FTP_Upload f u p /web/marklink/ %1begleiter.php"_qs.arg(ordner);
+  const QString gesucht = u"FTP_Datei_exists f u p /web/marklink/ web/marklink.php"_qs;
+  const QStringList nicht_geladen{u"Das Script konnte nicht auf den Server geladen werden."_qs};
+  const QStringList geladen{u"Das Script für Marklink wurde erfolgreich auf den Server geladen."_qs};
+  const QStringList kein_test{u"Die Verbindung konnte nicht aufgebaut werden."_qs,
+                              u"Bitte überprüfen Sie Ihre Eingaben."_qs};
   const struct {
     Befehl Tun;
     QVariantList Ergebnisse;  ///< of the operations after the start; missing ones are invalid
     QStringList Aufrufe, Zeilen;
     bool Gut;
   } faelle[] = {
-      {testen,
-       {true},
-       {start, test},
-       {QStringLiteral("Die Verbindung zum FTP-Server konnte hergestellt werden.")},
-       true},
+      {testen, {true}, {start, test}, {u"Die Verbindung zum FTP-Server konnte hergestellt werden."_qs}, true},
       {testen, {false}, {start, test}, kein_test, false},
       {testen, {}, {start, test}, kein_test, false},
       {laden, {true, true, true}, {start, script, da, begleiter}, geladen, true},
       {laden, {true, true, false}, {start, script, da, begleiter}, geladen, true},
       {laden, {true, false}, {start, script, da}, nicht_geladen, false},
       {laden, {false}, {start, script}, nicht_geladen, false},
-      {suchen,
-       {true},
-       {start, gesucht},
-       {QStringLiteral("Das Script ist auf dem FTP-Server vorhanden.")},
-       true},
+      {suchen, {true}, {start, gesucht}, {u"Das Script ist auf dem FTP-Server vorhanden."_qs}, true},
       {suchen,
        {false},
        {start, gesucht},
-       {QStringLiteral("Das Script konnte nicht auf dem FTP-Server gefunden werden.")},
+       {u"Das Script konnte nicht auf dem FTP-Server gefunden werden."_qs},
        false},
   };
   for (const auto &fall : faelle) {
     for (const char *schluessel : {"ftphostname", "ftpusername", "ftppassword", "ftpfolder"})
-      Option_schreiben(QStringLiteral("Marklink"), QLatin1String(schluessel), QStringLiteral("alt"));
+      Option_schreiben(u"Marklink"_qs, QLatin1String(schluessel), u"alt"_qs);
     Einstellungen.Einstellungen_lesen();
     for (const auto &[schluessel, wert] : {std::pair{"ftphostname", "f"}, std::pair{"ftpusername", "u"},
                                            std::pair{"ftppassword", "p"}, std::pair{"ftpfolder", "/web/"}})
       Einstellungen.Wert_setzen(Feld(schluessel), QLatin1String(wert));
     host.Vorbereiten(fall.Ergebnisse);
-    skript.Erwarten(fall.Gut ? QStringLiteral("Hinweis") : QStringLiteral("Fehler"));
+    skript.Erwarten(fall.Gut ? u"Hinweis"_qs : u"Fehler"_qs);
     fall.Tun(Einstellungen);
     EXPECT_EQ(host.Aufrufe, fall.Aufrufe) << fall.Zeilen.join(u' ').toStdString();
     EXPECT_EQ(skript.Gezeigt.back().Zeilen, fall.Zeilen);
@@ -151,7 +140,7 @@ TEST_P(Shopeinstellungen_Test, Befehle_speichern_erst_und_rufen_den_Host) {
     EXPECT_EQ(Einstellungen.Hochladen_moeglich(), fall.Tun == testen && fall.Gut);
   }
   Host_Komponenten_setzen(nullptr);
-  skript.Erwarten(QStringLiteral("Fehler"));
+  skript.Erwarten(u"Fehler"_qs);
   Einstellungen.Script_hochladen();
   EXPECT_EQ(skript.Gezeigt.back().Zeilen, nicht_geladen) << "a host without the component";
 }

@@ -16,24 +16,18 @@
 #include "support/Fenster_Test.h"
 #include "support/Komponenten_Attrappe.h"
 #include "support/Testmandant.h"
-#include "ui/Hilfe.h"
 
 namespace marklink {
 namespace {
 
 using test::Kind;
-
-int Gezeigtes_Thema = 0;
+using test::Klick;
+using test::Tippen;
 
 class frmEinstellungen_Test : public test::Mandant_Test {
  protected:
-  frmEinstellungen_Test() {
-    Hilfe_setzen([](int Thema) { Gezeigtes_Thema = Thema; });
-  }
-  ~frmEinstellungen_Test() override { Hilfe_setzen(nullptr); }
-
   static QString Gespeichert(const char *Schluessel) {
-    return Option_lesen(QStringLiteral("Marklink"), QLatin1String(Schluessel));
+    return Option_lesen(u"Marklink"_qs, QLatin1String(Schluessel));
   }
   /// Walks to a page by the arrow keys of the tree.
   static void Seite(frmEinstellungen &F, int Nummer) {
@@ -43,23 +37,18 @@ class frmEinstellungen_Test : public test::Mandant_Test {
     for (int i = 0; i <= Nummer; ++i) QTest::keyClick(&baum, Qt::Key_Down);
     EXPECT_EQ(Kind<QStackedWidget>(F, u"picWizard").currentIndex(), Nummer);
   }
-  static void Tippen(frmEinstellungen &F, const char16_t *Feld, const QString &Text) {
-    auto &feld = Kind<QLineEdit>(F, Feld);
-    feld.setFocus();
-    QTest::qWait(0);  // the focus selects the old text, which typing replaces
-    QTest::keyClicks(&feld, Text);
-  }
+  test::Hilfe_Skript Hilfe;
   test::Dialoge_Skript Skript;
 };
 MARKLINK_BEIDE_TYPEN(frmEinstellungen_Test);
 
 TEST_P(frmEinstellungen_Test, aendern_und_mit_der_Eingabetaste_speichern) {
-  Mandant.Einstellen("Marklink", "autoretrieve", QStringLiteral("1"));
-  Mandant.Einstellen("Marklink", "attributematrix", QStringLiteral("5"));
+  Mandant.Einstellen("Marklink", "autoretrieve", u"1"_qs);
+  Mandant.Einstellen("Marklink", "attributematrix", u"5"_qs);
   frmEinstellungen f;
   test::Zeigen(f);
-  EXPECT_EQ(f.windowTitle(), QStringLiteral("Einstellungen zum Webshop"));
-  Tippen(f, u"txtProjektbezeichnung", QStringLiteral("Neuer Laden"));
+  EXPECT_EQ(f.windowTitle(), u"Einstellungen zum Webshop"_qs);
+  Tippen(f, u"txtProjektbezeichnung", u"Neuer Laden"_qs);
   auto &richtung = Kind<QComboBox>(f, u"cboSynchronisierung");
   richtung.setFocus();
   QTest::keyClick(&richtung, Qt::Key_Down);
@@ -69,7 +58,7 @@ TEST_P(frmEinstellungen_Test, aendern_und_mit_der_Eingabetaste_speichern) {
   preise.setFocus();
   QTest::keyClick(&preise, Qt::Key_Space);
   Seite(f, 3);
-  Tippen(f, u"txtFTP_Ordner", QStringLiteral("/web"));
+  Tippen(f, u"txtFTP_Ordner", u"/web"_qs);
   EXPECT_EQ(Gespeichert("ftpfolder"), QString()) << "nothing is stored before it is saved";
   QTest::keyClick(&f, Qt::Key_Return);
   EXPECT_EQ(f.result(), QDialog::Accepted);
@@ -83,14 +72,14 @@ TEST_P(frmEinstellungen_Test, aendern_und_mit_der_Eingabetaste_speichern) {
 TEST_P(frmEinstellungen_Test, Escape_verwirft_und_F1_hilft) {
   frmEinstellungen f;
   test::Zeigen(f);
-  Tippen(f, u"txtProjektbezeichnung", QStringLiteral("verworfen"));
+  Tippen(f, u"txtProjektbezeichnung", u"verworfen"_qs);
   QTest::keyClick(&f, Qt::Key_F1);
-  EXPECT_EQ(std::exchange(Gezeigtes_Thema, 0), 1152);
-  QTest::mouseClick(&Kind<QPushButton>(f, u"cmdHilfe"), Qt::LeftButton);
-  EXPECT_EQ(std::exchange(Gezeigtes_Thema, 0), 1152);
+  EXPECT_EQ(test::Hilfe_Skript::Thema(), 1152);
+  Klick(f, u"cmdHilfe");
+  EXPECT_EQ(test::Hilfe_Skript::Thema(), 1152);
   QTest::keyClick(&f, Qt::Key_Escape);
   EXPECT_FALSE(f.isVisible());
-  EXPECT_EQ(Gespeichert("project"), QStringLiteral("Test"));
+  EXPECT_EQ(Gespeichert("project"), u"Test"_qs);
 }
 
 TEST_P(frmEinstellungen_Test, Verbindungstest_gibt_das_Hochladen_frei_und_speichert) {
@@ -98,21 +87,21 @@ TEST_P(frmEinstellungen_Test, Verbindungstest_gibt_das_Hochladen_frei_und_speich
   frmEinstellungen f;
   test::Zeigen(f);
   Seite(f, 3);
-  Tippen(f, u"txtFTP_Hostname", QStringLiteral("ftp.laden.de"));
+  Tippen(f, u"txtFTP_Hostname", u"ftp.laden.de"_qs);
   auto &hochladen = Kind<QPushButton>(f, u"cmdFTP_Upload");
   const auto testen = [&](bool Gelingt) {
     host.Vorbereiten({Gelingt});
-    Skript.Erwarten(Gelingt ? QStringLiteral("Hinweis") : QStringLiteral("Fehler"));
-    QTest::mouseClick(&Kind<QPushButton>(f, u"cmdFTP_Verbindungstest"), Qt::LeftButton);
+    Skript.Erwarten(Gelingt ? u"Hinweis"_qs : u"Fehler"_qs);
+    Klick(f, u"cmdFTP_Verbindungstest");
     return hochladen.isEnabled();
   };
   EXPECT_FALSE(hochladen.isEnabled());
   EXPECT_TRUE(testen(true));
-  Skript.Erwarten(QStringLiteral("Fehler"));
+  Skript.Erwarten(u"Fehler"_qs);
   QTest::mouseClick(&hochladen, Qt::LeftButton);
   EXPECT_FALSE(testen(false));
   QTest::keyClick(&f, Qt::Key_Escape);
-  EXPECT_EQ(Gespeichert("ftphostname"), QStringLiteral("ftp.laden.de")) << "the test has saved already";
+  EXPECT_EQ(Gespeichert("ftphostname"), u"ftp.laden.de"_qs) << "the test has saved already";
 }
 
 TEST_P(frmEinstellungen_Test, ein_zweiter_Klick_startet_nichts_zweites) {
@@ -120,18 +109,16 @@ TEST_P(frmEinstellungen_Test, ein_zweiter_Klick_startet_nichts_zweites) {
   frmEinstellungen f;
   test::Zeigen(f);
   Seite(f, 3);
-  const auto klick = [&f] {
-    QTest::mouseClick(&Kind<QPushButton>(f, u"cmdFTP_Verbindungstest"), Qt::LeftButton);
-  };
+  const auto klick = [&f] { Klick(f, u"cmdFTP_Verbindungstest"); };
   host.Vorbereiten({true, true});
-  Skript.Erwarten(QStringLiteral("Hinweis"));
+  Skript.Erwarten(u"Hinweis"_qs);
   QTimer::singleShot(0, &f, [&] {  // while the first one waits
     klick();
     QTest::keyClick(&f, Qt::Key_Escape);
     EXPECT_TRUE(f.isVisible());
   });
   klick();
-  EXPECT_EQ(host.Aufrufe.filter(QStringLiteral("FTP_Verbindungstest")).size(), 1);
+  EXPECT_EQ(host.Aufrufe.filter(u"FTP_Verbindungstest"_qs).size(), 1);
   QTest::keyClick(&f, Qt::Key_Escape);
   EXPECT_FALSE(f.isVisible());
 }
@@ -139,14 +126,14 @@ TEST_P(frmEinstellungen_Test, ein_zweiter_Klick_startet_nichts_zweites) {
 TEST_P(frmEinstellungen_Test, was_nicht_zu_zeigen_ist_bleibt_erhalten) {
   const QString lang = QString(5000, u'x');
   Mandant.Einstellen("Marklink", "hostname", lang);
-  Mandant.Einstellen("Marklink", "synchronisation", QStringLiteral("7"));
+  Mandant.Einstellen("Marklink", "synchronisation", u"7"_qs);
   const QString vorher = Gespeichert("hostname");
   frmEinstellungen f;
   test::Zeigen(f);
   EXPECT_EQ(Kind<QComboBox>(f, u"cboSynchronisierung").currentIndex(), -1);
-  QTest::mouseClick(&Kind<QPushButton>(f, u"cmdOK"), Qt::LeftButton);
+  Klick(f, u"cmdOK");
   EXPECT_EQ(Gespeichert("hostname"), vorher);
-  EXPECT_EQ(Gespeichert("synchronisation"), QStringLiteral("7"));
+  EXPECT_EQ(Gespeichert("synchronisation"), u"7"_qs);
 }
 
 TEST_P(frmEinstellungen_Test, nichts_ist_abgeschnitten) {
@@ -166,19 +153,8 @@ TEST_P(frmEinstellungen_Test, nichts_ist_abgeschnitten) {
       Seite(f, seite);
       const auto *blatt = qobject_cast<QScrollArea *>(Kind<QStackedWidget>(f, u"picWizard").currentWidget());
       EXPECT_EQ(blatt->horizontalScrollBar()->maximum(), 0) << "page " << seite << " at " << fall.Schriftgrad;
+      test::Bild_machen(f, u"frmEinstellungen_%1_%2"_qs.arg(seite + 1).arg(fall.Schriftgrad));
     }
-  }
-}
-
-TEST(frmEinstellungen_Bild, aller_Seiten) {
-  if (qEnvironmentVariableIsEmpty("MARKLINK_BILDER")) return;
-  const test::Testmandant mandant(0);
-  frmEinstellungen f;
-  f.resize(810, 510);
-  for (int seite = 0; seite < 4; ++seite) {
-    auto &baum = Kind<QTreeWidget>(f, u"tvwNavigation");
-    baum.setCurrentItem(baum.topLevelItem(0)->child(seite));
-    test::Bild_machen(f, QStringLiteral("frmEinstellungen_%1").arg(seite + 1));
   }
 }
 
