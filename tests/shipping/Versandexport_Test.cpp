@@ -3,26 +3,26 @@
 #include "shipping/Versandexport.h"
 
 #include <signal.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QDir>
-#include <QFile>
 #include <QSet>
 #include <optional>
 #include <random>
-#include <vector>
 
 #include "db/Verbindung.h"
 #include "host/Datenbank.h"
 #include "shipping/Exportdatei.h"
 #include "support/Dialoge_Skript.h"
+#include "support/Testdateien.h"
 #include "support/Testmandant.h"
 
 namespace marklink {
 namespace {
 
+using test::Volle_Platte;
+
+const QString Letztes = u"POOL_RECHNUNGSPOSITIONENDHL"_qs;
 const char *const Spalten =
     "POOL_REFNR;POOL_V_ABS_REFNR;POOL_V_ABS_BEMERKUNG;POOL_V_MAND_REFNR;POOL_V_VERFAHREN;POOL_V_TEILNAHME;"
     "POOL_V_KSTSTELLE_KUERZEL;POOL_V_PRODUKT_CN;POOL_V_EXTRASLST;POOL_V_NN_WAEHRUNG;POOL_WERT_WAEHRUNG;"
@@ -37,39 +37,6 @@ const char *const Spalten =
     "POOL_RECHNUNGSNUMMERDHL;POOL_RECHNUNGSDATUMDHL;POOL_UNTERZEICHNERDHL;POOL_ZOLLTARIFDHL;"
     "POOL_RECHNUNGSBEMDHL;POOL_EXPORTARTDHL;POOL_EXPORTGRUNDDHL;POOL_HANDELSBEDINGUNGENDHL;"
     "POOL_RECHNUNGSPOSITIONENDHL";
-
-/// In the child of the test with kills: nobody sees it.
-class Stumm : public Dialoge {
-  Antwort Meldung(const QString &, const QStringList &, Symbol, Knoepfe, Antwort) override {
-    return Antwort::OK;
-  }
-  QString Eingabe(const QString &, const QString &, const QString &) override { return {}; }
-  QString Datei_oeffnen(const QString &, const QString &, const QString &) override { return {}; }
-  QString Datei_speichern(const QString &, const QString &, const QString &) override { return {}; }
-  std::optional<quint32> Farbe(quint32) override { return {}; }
-  bool Schirm_zeigen(const QString &) override { return false; }
-};
-
-/// As long as it lives no file grows beyond so many bytes.
-class Volle_Platte {
- public:
-  explicit Volle_Platte(qsizetype Groesste_Datei) {
-    getrlimit(RLIMIT_FSIZE, &Vorher_);
-    rlimit eng = Vorher_;
-    eng.rlim_cur = rlim_t(Groesste_Datei);
-    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &eng), 0);
-  }
-  ~Volle_Platte() {
-    setrlimit(RLIMIT_FSIZE, &Vorher_);
-    signal(SIGXFSZ, Handler_);
-  }
-  Volle_Platte(const Volle_Platte &) = delete;
-  Volle_Platte &operator=(const Volle_Platte &) = delete;
-
- private:
-  rlimit Vorher_{};
-  sighandler_t Handler_ = signal(SIGXFSZ, SIG_IGN);
-};
 
 class Versandexport_Test : public test::Mandant_Test {
  protected:
@@ -86,21 +53,20 @@ class Versandexport_Test : public test::Mandant_Test {
     Mandant.Zeile(u"LogisticsEASYLOG"_qs,
                   QVariantList{u"OrderID"_qs, QString::fromLatin1(Bestellung)} + Felder);
   }
-  QByteArray Datei() const {
-    QFile datei(Pfad);
-    return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray("(keine Datei)");
-  }
-  void Datei_schreiben(const QByteArray &Bytes) const {
-    QFile datei(Pfad);
-    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
-    datei.write(Bytes);
-  }
+  QByteArray Datei() const { return test::Datei_lesen(Pfad); }
   Versandexport Exportieren(const char *Meldung = "Die Daten wurden erfolgreich exportiert.") {
     test::Dialoge_Skript dialoge;
     dialoge.Erwarten(u"Hinweis"_qs);
     const Versandexport ergebnis = Versandliste_exportieren();
     EXPECT_EQ(dialoge.Gezeigt.at(0).Zeilen, QStringList(QString::fromUtf8(Meldung)));
     return ergebnis;
+  }
+  /// The file after the export of one shipment with these fields alone.
+  QByteArray Ausgabe(const QVariantList &Felder) {
+    Ausfuehren("DELETE FROM LogisticsEASYLOG");
+    Versand("1", Felder);
+    Exportieren();
+    return Datei();
   }
   /// Shipments "0000", "0001" and so on with lines of 306 bytes when the delimiter is empty.
   static void Versandauftraege_anlegen(int Anzahl) {
@@ -109,14 +75,19 @@ class Versandexport_Test : public test::Mandant_Test {
       rs.AddNew();
       rs.SetValue(u"OrderID"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
       rs.SetValue(u"POOL_REFNR"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
-      rs.SetValue(u"POOL_RECHNUNGSPOSITIONENDHL"_qs, QString(300, u'x'));
+      rs.SetValue(Letztes, QString(300, u'x'));
       rs.Update();
     }
     ASSERT_TRUE(rs.UpdateBatch());
   }
+  /// How many different ones of them stand in the file.
+  qsizetype Bestellungen() const {
+    QSet<QByteArray> nummern;
+    for (const QByteArray &zeile : Datei().split('\n')) nummern.insert(zeile.left(4));
+    return nummern.size() - 1;  // the empty rest behind the last line
+  }
   [[noreturn]] static void Im_Kind_exportieren() {
-    Stumm stumm;
-    Dialoge_setzen(&stumm);
+    // No dialogs are installed: nobody sees its message.
     Versandliste_exportieren();
     _exit(0);
   }
@@ -164,13 +135,11 @@ TEST_P(Versandexport_Test, Header_and_appending) {
   };
   for (const auto &fall : faelle) {
     QFile::remove(Pfad);
-    if (fall.Vorhanden) Datei_schreiben(alt);
-    Ausfuehren("DELETE FROM LogisticsEASYLOG");
-    Versand("1", {u"POOL_REFNR"_qs, u"R1"_qs, u"POOL_V_ABS_REFNR"_qs, u"E"_qs});
+    if (fall.Vorhanden) test::Datei_schreiben(Pfad, alt);
     Einstellen(";", fall.Kopf, fall.Anhaengen);
-    Exportieren();
     // What is empty behind the two fields still has its delimiters.
-    EXPECT_EQ(Datei(), QByteArray(fall.Erwartet).replace("R1;E", "R1;E" + QByteArray(58, ';')))
+    EXPECT_EQ(Ausgabe({u"POOL_REFNR"_qs, u"R1"_qs, u"POOL_V_ABS_REFNR"_qs, u"E"_qs}),
+              QByteArray(fall.Erwartet).replace("R1;E", "R1;E" + QByteArray(58, ';')))
         << fall.Vorhanden << fall.Kopf << fall.Anhaengen;
   }
 }
@@ -186,13 +155,11 @@ TEST_P(Versandexport_Test, A_line_as_it_is_written) {
       {";", {u"POOL_V_VERFAHREN"_qs, u"01"_qs}, "01" + QByteArray(55, ';') + "\r\n"},
       {";", {}, "\r\n"},
       {"<->", {u"POOL_EXPORTARTDHL"_qs, u"a"_qs, u"POOL_EXPORTGRUNDDHL"_qs, u"b"_qs}, "a<->b<-><->\r\n"},
-      {"", {u"POOL_REFNR"_qs, u"a"_qs, u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"b"_qs}, "ab\r\n"},
+      {"", {u"POOL_REFNR"_qs, u"a"_qs, Letztes, u"b"_qs}, "ab\r\n"},
       // no quotes around anything
+      {";", {u"POOL_HANDELSBEDINGUNGENDHL"_qs, u"x;y\r\n\"z\""_qs, Letztes, u"'"_qs}, "x;y\r\n\"z\";'\r\n"},
       {";",
-       {u"POOL_HANDELSBEDINGUNGENDHL"_qs, u"x;y\r\n\"z\""_qs, u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"'"_qs},
-       "x;y\r\n\"z\";'\r\n"},
-      {";",
-       {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"Größe 5 € 漢"_qs},
+       {Letztes, u"Größe 5 € 漢"_qs},
        "Gr\xF6\xDF"
        "e 5 \x80 ?\r\n"},
       {";", {u"POOL_EMPF_GEWICHT"_qs, u"1,500"_qs}, "1,50" + rest + "\r\n"},
@@ -200,11 +167,8 @@ TEST_P(Versandexport_Test, A_line_as_it_is_written) {
       {";", {u"POOL_EMPF_GEWICHT"_qs, u"schwer"_qs}, "schwer" + rest + "\r\n"},
   };
   for (const auto &fall : faelle) {
-    Ausfuehren("DELETE FROM LogisticsEASYLOG");
-    Versand("1", fall.Felder);
     Einstellen(fall.Trennzeichen, "0", "0");
-    Exportieren();
-    EXPECT_EQ(Datei(), fall.Erwartet);
+    EXPECT_EQ(Ausgabe(fall.Felder), fall.Erwartet);
   }
 }
 
@@ -225,10 +189,9 @@ TEST_P(Versandexport_Test, A_path_that_cannot_be_opened_marks_all_and_tells_succ
 
 TEST_P(Versandexport_Test, What_finds_no_room_is_left_open_and_leaves_no_half_line) {
   constexpr qsizetype ANFANG = 64 * 1024 * 1024;  // beyond anything that the database writes
-  Datei_schreiben({});
+  test::Datei_schreiben(Pfad, {});
   ASSERT_TRUE(QFile::resize(Pfad, ANFANG));
-  for (const char *nummer : {"1", "2", "3"})
-    Versand(nummer, {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"12345678"_qs});
+  for (const char *nummer : {"1", "2", "3"}) Versand(nummer, {Letztes, u"12345678"_qs});
   Einstellen(";", "0", "1");
   std::optional<Volle_Platte> voll(ANFANG + 15);
   const Versandexport ergebnis = Exportieren();
@@ -249,10 +212,10 @@ TEST_P(Versandexport_Test, A_line_that_was_cut_short_is_taken_out_when_appending
       {"fremd", "fremdR1\r\nR2x123\r\n"},  // not ours: stays as it is
   };
   for (const auto &fall : faelle) {
-    Datei_schreiben(fall.Vorher);
+    test::Datei_schreiben(Pfad, fall.Vorher);
     Ausfuehren("DELETE FROM LogisticsEASYLOG");
-    Versand("1", {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"R1"_qs});
-    Versand("2", {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"R2x123"_qs});
+    Versand("1", {Letztes, u"R1"_qs});
+    Versand("2", {Letztes, u"R2x123"_qs});
     Einstellen(";", "1", "1");
     Exportieren();
     EXPECT_EQ(Datei(), fall.Erwartet);
@@ -264,8 +227,7 @@ TEST_P(Versandexport_Test, A_line_whose_shipment_cannot_be_marked_is_taken_back)
   for (int n = 1; n < 40; ++n) {
     QFile::remove(Pfad);
     Ausfuehren("DELETE FROM LogisticsEASYLOG");
-    for (const char *nummer : {"1", "2", "3"})
-      Versand(nummer, {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, QString::fromLatin1(nummer)});
+    for (const char *nummer : {"1", "2", "3"}) Versand(nummer, {Letztes, QString::fromLatin1(nummer)});
     Einstellen(";", "0", "1");
     test::Dialoge_Skript dialoge;
     dialoge.Erwarten(u"Hinweis"_qs);
@@ -285,12 +247,9 @@ TEST_P(Versandexport_Test, A_line_whose_shipment_cannot_be_marked_is_taken_back)
 TEST_P(Versandexport_Test, A_header_comes_as_a_whole_or_not_at_all) {
   const QByteArray kopf = QByteArray(Spalten) + "\r\n", zeile = "R1\r\n";
   for (const char *anhaengen : {"0", "1"}) {
-    Ausfuehren("DELETE FROM LogisticsEASYLOG");
-    Versand("1", {u"POOL_RECHNUNGSPOSITIONENDHL"_qs, u"R1"_qs});
     Einstellen(";", "1", anhaengen);
-    Datei_schreiben(kopf.left(100));
-    Exportieren();
-    EXPECT_EQ(Datei(), kopf + zeile) << anhaengen;
+    test::Datei_schreiben(Pfad, kopf.left(100));
+    EXPECT_EQ(Ausgabe({Letztes, u"R1"_qs}), kopf + zeile) << anhaengen;
   }
   QFile::remove(Pfad);
   {
@@ -314,9 +273,7 @@ TEST_P(Versandexport_Test, Two_exports_at_once_write_each_shipment_once) {
       if (kinder.back() == 0) Im_Kind_exportieren();
     }
     for (const pid_t kind : kinder) waitpid(kind, nullptr, 0);
-    QSet<QByteArray> nummern;
-    for (const QByteArray &zeile : Datei().split('\n')) nummern.insert(zeile.left(4));
-    EXPECT_EQ(nummern.size(), ANZAHL + 1) << anhaengen;  // and the empty rest behind the last line
+    EXPECT_EQ(Bestellungen(), ANZAHL) << anhaengen;
     EXPECT_EQ(Datei().size(), 306 * ANZAHL) << anhaengen;
     EXPECT_EQ(Offene(), QString());
     EXPECT_FALSE(QFile::exists(Pfad + u".lock"_qs));
@@ -355,9 +312,7 @@ TEST_P(Versandexport_Test, A_killed_export_loses_no_shipment) {
     EXPECT_TRUE(zeilen == markiert || zeilen == markiert + 1)
         << zeilen << " lines, " << markiert << " marked";
     ausfuehren(-1);
-    QSet<QByteArray> nummern;
-    for (const QByteArray &zeile : Datei().split('\n')) nummern.insert(zeile.left(4));
-    EXPECT_EQ(nummern.size(), ANZAHL + 1);  // and the empty rest behind the last line
+    EXPECT_EQ(Bestellungen(), ANZAHL);
     EXPECT_EQ(Datei().size(), 306 * (ANZAHL + zeilen - markiert)) << "half a line";
     EXPECT_EQ(Offene(), QString());
   }

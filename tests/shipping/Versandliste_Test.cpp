@@ -3,7 +3,6 @@
 
 #include "Versandmandant.h"
 #include "db/Verbindung.h"
-#include "shipping/Versandeinstellungen.h"
 #include "shipping/Versandspalten.h"
 #include "support/Dialoge_Skript.h"
 #include "ui/Fortschritt.h"
@@ -175,21 +174,6 @@ TEST_P(Versandliste_Test, Auswahllisten_aus_der_Wertemappe) {
   EXPECT_TRUE(Produkte_des_Verfahrens(u"o'k"_qs).empty());
   Kontext.gVersandkostendatei = u"/nirgendwo.xls"_qs;
   for (const Tabellenspalte &spalte : Versandtabelle_Spalten()) EXPECT_TRUE(spalte.Auswahl.empty());
-}
-
-TEST_P(Versandliste_Test, Einstellungen_bleiben_wie_getippt) {
-  const Versandeinstellungen leer = Versandeinstellungen_lesen();
-  EXPECT_EQ(leer.Fortschreiben + leer.Spaltentitel, 0);
-  for (const QString &zeichen : {u"124"_qs, u"|"_qs, u";"_qs, u" "_qs, u"\""_qs, QString()}) {
-    Versandeinstellungen_schreiben(
-        {u"5012345678"_qs, u"Mandant 1"_qs, u"/tmp/easy log.csv"_qs, 1, zeichen, 0});
-    const Versandeinstellungen e = Versandeinstellungen_lesen();
-    EXPECT_EQ(e.Trennzeichen, zeichen);
-    EXPECT_EQ(e.Exportdatei, u"/tmp/easy log.csv"_qs);
-    EXPECT_EQ(e.Fortschreiben * 10 + e.Spaltentitel, 10);
-  }
-  EXPECT_EQ(Option_lesen(u"easylog"_qs, u"appendrecords"_qs), u"1"_qs);
-  EXPECT_EQ(Option_lesen(u"easylog"_qs, u"columnheader"_qs), u"0"_qs);
 }
 
 }  // namespace

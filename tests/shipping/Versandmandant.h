@@ -13,15 +13,15 @@ namespace marklink::test {
 class Versand_Test : public Mandant_Test {
  protected:
   Versand_Test() {
-    Mandant.Host_einstellen("files", "forwardingfile", QStringLiteral("Versandliste.xls"));
+    Mandant.Host_einstellen("files", "forwardingfile", u"Versandliste.xls"_qs);
     EXPECT_TRUE(QFile::copy(QStringLiteral(MARKLINK_VERSANDTESTS "/Versandliste.xls"),
-                            Mandant.Ordner() + QStringLiteral("Versandliste.xls")));
+                            Mandant.Ordner() + u"Versandliste.xls"_qs));
     Mandant.Starten();
   }
   /// Order and shipment of one day, with participation "01" or "02" by turns.
   void Auftrag(int Nummer, QDate Tag = QDate(2024, 6, 10), bool Uebergeben = false) {
     const QString nummer = QString::number(Nummer);
-    Mandant.Zeile(QStringLiteral("WebshopOrdersXTC"),
+    Mandant.Zeile(u"WebshopOrdersXTC"_qs,
                   {u"OrderID"_qs, nummer, u"InvoiceAddress"_qs, u"Rechnung "_qs + nummer,
                    u"DeliveryAddress"_qs, u"Lieferung "_qs + nummer});
     const bool ausland = Nummer % 2 == 0;
@@ -42,7 +42,7 @@ class Versand_Test : public Mandant_Test {
     };
     QVariantList zeile;
     for (const auto &[feld, wert] : felder) zeile << QString::fromUtf16(feld) << wert;
-    Mandant.Zeile(QStringLiteral("LogisticsEASYLOG"), zeile);
+    Mandant.Zeile(u"LogisticsEASYLOG"_qs, zeile);
   }
   /// A field of a shipment as the table holds it.
   static QString Gespeichert(int Nummer, const char *Feld) {

@@ -3,31 +3,23 @@
 
 #include <sys/resource.h>
 
-#include <QFile>
+#include <QTemporaryDir>
 
-#include "support/Testmandant.h"
+#include "support/Testdateien.h"
 
 namespace marklink {
 namespace {
 
+using test::Datei_lesen;
+using test::Datei_schreiben;
+
+const QString Verfahren = u"easylog_verfahren"_qs;
 const QString Mappe = QStringLiteral(MARKLINK_VERSANDTESTS "/Mappe.xls");
 
 QString Als_Text(const std::vector<Werteintrag> &Liste) {
   QStringList zeilen;
   for (const auto &[id, text] : Liste) zeilen.append(id + u'=' + text);
   return zeilen.join(u'|');
-}
-
-QByteArray Inhalt() {
-  QFile datei(Mappe);
-  EXPECT_TRUE(datei.open(QIODevice::ReadOnly));
-  return datei.readAll();
-}
-
-void Schreiben(const QString &Pfad, const QByteArray &Bytes) {
-  QFile datei(Pfad);
-  ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
-  datei.write(Bytes);
 }
 
 TEST(Wertemappe, Sheets_columns_and_values_are_found_as_the_books_compare) {
@@ -38,20 +30,16 @@ TEST(Wertemappe, Sheets_columns_and_values_are_found_as_the_books_compare) {
     const char *Erwartet;
   } faelle[] = {
       {"easylog_verfahren", {}, "01=Paket Inland|53=Weltpaket|99=zweite Zeile"},
-      {"easylog_verfahren",
-       {{QStringLiteral("Token"), QStringLiteral("National")}},
-       "01=Paket Inland|99=zweite Zeile"},
-      {"easylog_verfahren",
-       {{QStringLiteral("token"), QStringLiteral("NATIONAL")}, {QStringLiteral("ID"), QStringLiteral("99")}},
-       "99=zweite Zeile"},
-      {"easylog_verfahren", {{QStringLiteral("Token"), QStringLiteral("NATIONAL' OR '1'='1")}}, ""},
-      {"easylog_verfahren", {{QStringLiteral("Nirgends"), QStringLiteral("x")}}, ""},
+      {"easylog_verfahren", {{u"Token"_qs, u"National"_qs}}, "01=Paket Inland|99=zweite Zeile"},
+      {"easylog_verfahren", {{u"token"_qs, u"NATIONAL"_qs}, {u"ID"_qs, u"99"_qs}}, "99=zweite Zeile"},
+      {"easylog_verfahren", {{u"Token"_qs, u"NATIONAL' OR '1'='1"_qs}}, ""},
+      {"easylog_verfahren", {{u"Nirgends"_qs, u"x"_qs}}, ""},
       {"easylog_teilnahme", {}, "1=Teilnahme eins|1,5=Teilnahme anderthalb|05.03.2024=Stichtag|=nur Text"},
-      {"easylog_teilnahme", {{QStringLiteral("ID"), QStringLiteral("1")}}, "1=Teilnahme eins"},
-      {"easylog_produkte", {{QStringLiteral("Method_id"), QStringLiteral("01")}}, "P1=Päckchen|P2=Paket"},
-      {"easylog_produkte", {{QStringLiteral("Description"), QStringLiteral("PÄCKCHEN")}}, "P1=Päckchen"},
+      {"easylog_teilnahme", {{u"ID"_qs, u"1"_qs}}, "1=Teilnahme eins"},
+      {"easylog_produkte", {{u"Method_id"_qs, u"01"_qs}}, "P1=Päckchen|P2=Paket"},
+      {"easylog_produkte", {{u"Description"_qs, u"PÄCKCHEN"_qs}}, "P1=Päckchen"},
       {"easylog_services", {}, ""},
-      {"easylog_values", {{QStringLiteral("Fieldname"), QStringLiteral("POOL_V_ZOLL_WARENART")}}, ""},
+      {"easylog_values", {{u"Fieldname"_qs, u"POOL_V_ZOLL_WARENART"_qs}}, ""},
       {"leer", {}, ""},
       {"fehlt", {}, ""},
   };
@@ -62,7 +50,7 @@ TEST(Wertemappe, Sheets_columns_and_values_are_found_as_the_books_compare) {
 
 TEST(Wertemappe, What_is_no_workbook_is_an_empty_one) {
   QTemporaryDir ordner;
-  const QByteArray echt = Inhalt();
+  const QByteArray echt = Datei_lesen(Mappe);
   QByteArray genullt = echt;
   genullt.replace(0x200, 0x600, QByteArray(0x600, '\0'));
   const struct {
@@ -75,17 +63,17 @@ TEST(Wertemappe, What_is_no_workbook_is_an_empty_one) {
                 {"genullt", genullt}};
   for (const auto &fall : faelle) {
     const QString pfad = ordner.filePath(QLatin1String(fall.Name));
-    Schreiben(pfad, fall.Bytes);
-    EXPECT_TRUE(Wertemappe(pfad).Eintraege(QStringLiteral("easylog_verfahren")).empty()) << fall.Name;
+    Datei_schreiben(pfad, fall.Bytes);
+    EXPECT_TRUE(Wertemappe(pfad).Eintraege(Verfahren).empty()) << fall.Name;
   }
-  EXPECT_TRUE(Wertemappe({}).Eintraege(QStringLiteral("easylog_verfahren")).empty());
-  EXPECT_TRUE(Wertemappe(ordner.path()).Eintraege(QStringLiteral("easylog_verfahren")).empty());
+  EXPECT_TRUE(Wertemappe({}).Eintraege(Verfahren).empty());
+  EXPECT_TRUE(Wertemappe(ordner.path()).Eintraege(Verfahren).empty());
 }
 
 TEST(Wertemappe, A_damaged_workbook_does_no_harm) {
   QTemporaryDir ordner;
-  const QString pfad = ordner.filePath(QStringLiteral("schaden.xls"));
-  const QByteArray echt = Inhalt();
+  const QString pfad = ordner.filePath(u"schaden.xls"_qs);
+  const QByteArray echt = Datei_lesen(Mappe);
   quint32 zufall = 4711;
   for (int lauf = 0; lauf < (qEnvironmentVariableIsSet("MARKLINK_ALLE") ? 10000 : 60); ++lauf) {
     QByteArray bytes = echt;
@@ -93,7 +81,7 @@ TEST(Wertemappe, A_damaged_workbook_does_no_harm) {
       zufall = zufall * 1664525u + 1013904223u;
       bytes[qsizetype((zufall >> 8) % quint32(bytes.size()))] = char(zufall >> 3);
     }
-    Schreiben(pfad, bytes);
+    Datei_schreiben(pfad, bytes);
     const Wertemappe mappe(pfad);
     for (const char *blatt : {"easylog_verfahren", "easylog_teilnahme", "easylog_produkte"})
       mappe.Eintraege(QLatin1String(blatt));
@@ -102,29 +90,15 @@ TEST(Wertemappe, A_damaged_workbook_does_no_harm) {
 
 TEST(Wertemappe, A_passing_failure_does_not_last) {
   QTemporaryDir ordner;
-  const QString pfad = ordner.filePath(QStringLiteral("werte.xls"));
-  Schreiben(pfad, Inhalt());
+  const QString pfad = ordner.filePath(u"werte.xls"_qs);
+  Datei_schreiben(pfad, Datei_lesen(Mappe));
   rlimit vorher{};
   getrlimit(RLIMIT_NOFILE, &vorher);
   const rlimit eng{3, vorher.rlim_max};
   setrlimit(RLIMIT_NOFILE, &eng);
-  EXPECT_TRUE(Wertemappe(pfad).Eintraege(QStringLiteral("easylog_verfahren")).empty());
+  EXPECT_TRUE(Wertemappe(pfad).Eintraege(Verfahren).empty());
   setrlimit(RLIMIT_NOFILE, &vorher);
-  EXPECT_EQ(Wertemappe(pfad).Eintraege(QStringLiteral("easylog_verfahren")).size(), 3U);
-}
-
-TEST(Wertemappe, The_look_ups_read_the_workbook_of_the_context) {
-  test::Testmandant mandant(0);
-  EXPECT_EQ(QString(), Verfahren_ermitteln(QStringLiteral("NATIONAL")));
-  ASSERT_TRUE(QFile::copy(Mappe, mandant.Ordner() + QStringLiteral("easylog.xls")));
-  mandant.Host_einstellen("files", "forwardingfile", QStringLiteral("easylog.xls"));
-  mandant.Starten();
-  EXPECT_EQ(QStringLiteral("01"), Verfahren_ermitteln(QStringLiteral("NATIONAL")));
-  EXPECT_EQ(QStringLiteral("1,5"), Teilnahme_ermitteln(QStringLiteral("INTERNATIONAL")));
-  EXPECT_EQ(QStringLiteral("P2"), Produkt_ermitteln(QStringLiteral("NATIONAL")));
-  EXPECT_EQ(QString(), Produkt_ermitteln(QStringLiteral("INTERNATIONAL")));
-  EXPECT_EQ(QStringLiteral("132"), Service_Nachnahme_ermitteln(QStringLiteral("NATIONAL")));
-  EXPECT_EQ(QString(), Service_Nachnahme_ermitteln(QStringLiteral("INTERNATIONAL")));
+  EXPECT_EQ(Wertemappe(pfad).Eintraege(Verfahren).size(), 3U);
 }
 
 }  // namespace

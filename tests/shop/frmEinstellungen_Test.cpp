@@ -74,9 +74,9 @@ TEST_P(frmEinstellungen_Test, Escape_verwirft_und_F1_hilft) {
   test::Zeigen(f);
   Tippen(f, u"txtProjektbezeichnung", u"verworfen"_qs);
   QTest::keyClick(&f, Qt::Key_F1);
-  EXPECT_EQ(test::Hilfe_Skript::Thema(), 1152);
+  EXPECT_EQ(std::exchange(Hilfe.Thema, 0), 1152);
   Klick(f, u"cmdHilfe");
-  EXPECT_EQ(test::Hilfe_Skript::Thema(), 1152);
+  EXPECT_EQ(std::exchange(Hilfe.Thema, 0), 1152);
   QTest::keyClick(&f, Qt::Key_Escape);
   EXPECT_FALSE(f.isVisible());
   EXPECT_EQ(Gespeichert("project"), u"Test"_qs);

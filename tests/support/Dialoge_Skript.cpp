@@ -15,24 +15,6 @@ Dialoge_Skript::~Dialoge_Skript() {
     ADD_FAILURE() << "announced but not shown: " << ansage.Titel.toStdString();
 }
 
-void Dialoge_Skript::Erwarten(const QString &Titel, Antwort A) {
-  Ansagen_.push_back({Art::Meldung, Titel, A});
-}
-
-void Dialoge_Skript::Erwarten_Eingabe(const QString &Titel, const QString &Text) {
-  Ansagen_.push_back({Art::Eingabe, Titel, Antwort::OK, Text});
-}
-
-void Dialoge_Skript::Erwarten_Datei(Art Was, const QString &Pfad) {
-  Ansagen_.push_back({Was, QString(), Antwort::OK, Pfad});
-}
-
-void Dialoge_Skript::Erwarten_Farbe(std::optional<quint32> Wert) {
-  Ansagen_.push_back({Art::Farbe, QString(), Antwort::OK, QString(), Wert});
-}
-
-void Dialoge_Skript::Erwarten_Schirm(const QString &Name) { Ansagen_.push_back({Art::Schirm, Name}); }
-
 std::optional<Dialoge_Skript::Ansage> Dialoge_Skript::abholen(Gezeigtes Neu) {
   Gezeigt.push_back(Neu);
   const bool passt = !Ansagen_.empty() && Ansagen_.front().Was == Neu.Was &&
@@ -54,21 +36,22 @@ Antwort Dialoge_Skript::Meldung(const QString &Titel, const QStringList &Zeilen,
   return K == Knoepfe::OK ? Antwort::OK : K == Knoepfe::JaNein ? Antwort::Nein : Antwort::Abbrechen;
 }
 
-QString Dialoge_Skript::Eingabe(const QString &Titel, const QString &Text, const QString &Vorgabe) {
-  const auto ansage = abholen({Art::Eingabe, Titel, {Text}, Symbol::Ohne, Knoepfe::OK, Antwort::OK, Vorgabe});
+QString Dialoge_Skript::Text_abholen(Art Was, const QString &Titel, const QString &Zeile,
+                                     const QString &Vorgabe) {
+  const auto ansage = abholen({Was, Titel, {Zeile}, Symbol::Ohne, Knoepfe::OK, Antwort::OK, Vorgabe});
   return ansage ? ansage->Text : QString();
+}
+
+QString Dialoge_Skript::Eingabe(const QString &Titel, const QString &Text, const QString &Vorgabe) {
+  return Text_abholen(Art::Eingabe, Titel, Text, Vorgabe);
 }
 
 QString Dialoge_Skript::Datei_oeffnen(const QString &Titel, const QString &Filter, const QString &Ordner) {
-  const auto ansage =
-      abholen({Art::Oeffnen, Titel, {Filter}, Symbol::Ohne, Knoepfe::OK, Antwort::OK, Ordner});
-  return ansage ? ansage->Text : QString();
+  return Text_abholen(Art::Oeffnen, Titel, Filter, Ordner);
 }
 
 QString Dialoge_Skript::Datei_speichern(const QString &Titel, const QString &Filter, const QString &Vorgabe) {
-  const auto ansage =
-      abholen({Art::Speichern, Titel, {Filter}, Symbol::Ohne, Knoepfe::OK, Antwort::OK, Vorgabe});
-  return ansage ? ansage->Text : QString();
+  return Text_abholen(Art::Speichern, Titel, Filter, Vorgabe);
 }
 
 std::optional<quint32> Dialoge_Skript::Farbe(quint32 /*Vorgabe*/) {
@@ -80,29 +63,9 @@ bool Dialoge_Skript::Schirm_zeigen(const QString &Name) {
   return abholen({Art::Schirm, Name, {}}).has_value();
 }
 
-Fortschritt_Skript::Fortschritt_Skript() { Fortschritt_setzen(this); }
-
-Fortschritt_Skript::~Fortschritt_Skript() { Fortschritt_setzen(nullptr); }
-
-void Fortschritt_Skript::Text(const QString &Zeile) { Texte << Zeile; }
-
 void Fortschritt_Skript::Wert(int Wert) {
   Werte.push_back(Wert);
   if (Wert == Abbrechen_bei) Kontext.gAbbrechen = true;
-}
-
-void Fortschritt_Skript::Verbergen() { Sichtbar = false; }
-
-void Fortschritt_Skript::Ausblenden() {
-  Sichtbar = false;
-  ++Ausgeblendet;
-}
-
-void Fortschritt_Skript::Einblenden() { Sichtbar = true; }
-
-void Fortschritt_Skript::Anzeigen(const QString &Titel, int Maximum, bool Abbrechen_zeigen) {
-  Angezeigt.push_back({Titel, Maximum, Abbrechen_zeigen});
-  Sichtbar = true;
 }
 
 }  // namespace marklink::test

@@ -31,11 +31,17 @@ class Dialoge_Skript : public Dialoge {
   Dialoge_Skript &operator=(const Dialoge_Skript &) = delete;
 
   // Announcements, in the order in which the dialogs come. The title of a screen is its name.
-  void Erwarten(const QString &Titel, Antwort A = Antwort::OK);
-  void Erwarten_Eingabe(const QString &Titel, const QString &Text);
-  void Erwarten_Datei(Art Was, const QString &Pfad);
-  void Erwarten_Farbe(std::optional<quint32> Wert);
-  void Erwarten_Schirm(const QString &Name);
+  void Erwarten(const QString &Titel, Antwort A = Antwort::OK) {
+    Ansagen_.push_back({Art::Meldung, Titel, A});
+  }
+  void Erwarten_Eingabe(const QString &Titel, const QString &Text) {
+    Ansagen_.push_back({Art::Eingabe, Titel, Antwort::OK, Text});
+  }
+  void Erwarten_Datei(Art Was, const QString &Pfad) { Ansagen_.push_back({Was, {}, Antwort::OK, Pfad}); }
+  void Erwarten_Farbe(std::optional<quint32> Wert) {
+    Ansagen_.push_back({Art::Farbe, {}, Antwort::OK, {}, Wert});
+  }
+  void Erwarten_Schirm(const QString &Name) { Ansagen_.push_back({Art::Schirm, Name}); }
 
   /// Everything that was shown, unexpected dialogs included.
   std::vector<Gezeigtes> Gezeigt;
@@ -56,6 +62,8 @@ class Dialoge_Skript : public Dialoge {
     QString Text{};
     std::optional<quint32> Wert{};
   };
+  /// What a prompt or a file dialog gives.
+  QString Text_abholen(Art Was, const QString &Titel, const QString &Zeile, const QString &Vorgabe);
   /// The announcement for what is shown now; nothing, and a failed test, when it is another one or none.
   std::optional<Ansage> abholen(Gezeigtes Neu);
 
@@ -64,8 +72,8 @@ class Dialoge_Skript : public Dialoge {
 
 class Fortschritt_Skript : public Fortschritt {
  public:
-  Fortschritt_Skript();
-  ~Fortschritt_Skript() override;
+  Fortschritt_Skript() { Fortschritt_setzen(this); }
+  ~Fortschritt_Skript() override { Fortschritt_setzen(nullptr); }
   Fortschritt_Skript(const Fortschritt_Skript &) = delete;
   Fortschritt_Skript &operator=(const Fortschritt_Skript &) = delete;
 
@@ -81,15 +89,21 @@ class Fortschritt_Skript : public Fortschritt {
   int Ausgeblendet = 0;    ///< times that it was taken out of the way
   int Abbrechen_bei = -1;  ///< the cancel button is pressed when this value is shown
 
-  void Text(const QString &Zeile) override;
+  void Text(const QString &Zeile) override { Texte << Zeile; }
   void Wert(int Wert) override;
-  void Verbergen() override;
+  void Verbergen() override { Sichtbar = false; }
   bool Offen() const override { return Sichtbar; }
-  void Ausblenden() override;
-  void Einblenden() override;
+  void Ausblenden() override {
+    Sichtbar = false;
+    ++Ausgeblendet;
+  }
+  void Einblenden() override { Sichtbar = true; }
 
  protected:
-  void Anzeigen(const QString &Titel, int Maximum, bool Abbrechen_zeigen) override;
+  void Anzeigen(const QString &Titel, int Maximum, bool Abbrechen_zeigen) override {
+    Angezeigt.push_back({Titel, Maximum, Abbrechen_zeigen});
+    Sichtbar = true;
+  }
 };
 
 }  // namespace marklink::test

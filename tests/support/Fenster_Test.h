@@ -63,15 +63,11 @@ void Tippen(QWidget &Fenster, const char16_t *Feld, const QString &Text);
 /// at 150 %. Saves its picture "<Name>_klein".
 void Kleiner_Bildschirm(const std::function<QWidget &()> &Oeffnen, const QString &Name);
 
-/// While it lives help is not shown, but kept in mind.
-class Hilfe_Skript {
- public:
+/// While it lives help is not shown; the topic that was last asked for is kept.
+struct Hilfe_Skript {
   Hilfe_Skript();
   ~Hilfe_Skript();
-  Hilfe_Skript(const Hilfe_Skript &) = delete;
-  Hilfe_Skript &operator=(const Hilfe_Skript &) = delete;
-  /// The topic that was asked for since the last call; 0: none.
-  static int Thema();
+  static inline int Thema = 0;
 };
 
 /// Centre of an item view's cell, for QTest::mouseClick on its viewport.
