@@ -10,61 +10,51 @@
 namespace marklink {
 namespace {
 
-Pruefliste Stati() {
-  return {{{true, {QStringLiteral("Offen"), QStringLiteral("1")}},
-           {false, {QStringLiteral("In Arbeit"), QStringLiteral("2")}},
-           {true, {QStringLiteral("Versendet"), QStringLiteral("3")}},
-           {true, {QStringLiteral("ohne Nummer")}}},
-          -1};
-}
-
-TEST(Pruefliste_Test, markierte_Zeilen) {
-  Pruefliste liste = Stati();
+TEST(Pruefliste_Test, markierte_und_gewaehlte_Zeilen) {
+  Pruefliste liste{{{true, {u"Offen"_qs, u"1"_qs}},
+                    {false, {u"In Arbeit"_qs, u"2"_qs}},
+                    {true, {u"Versendet"_qs, u"3"_qs}},
+                    {true, {u"ohne Nummer"_qs}}},
+                   -1};
+  const auto verkettet = [&liste] { return Zeilen_verketten(liste, 1, u"'"_qs, u","_qs); };
   EXPECT_EQ(Zeilen_zaehlen(liste, true), 3);
   EXPECT_EQ(Zeilen_zaehlen(liste, false), 1);
-  EXPECT_EQ(Zeilen_verketten(liste, 1, QStringLiteral("'"), QStringLiteral(",")),
-            QStringLiteral("'1','3',''"));
-  EXPECT_EQ(Zeilen_markierte(liste, 0), (QStringList{QStringLiteral("Offen"), QStringLiteral("Versendet"),
-                                                     QStringLiteral("ohne Nummer")}));
+  EXPECT_EQ(verkettet(), u"'1','3',''"_qs);
+  EXPECT_EQ(Zeilen_markierte(liste, 0).join(u'|'), u"Offen|Versendet|ohne Nummer"_qs);
   for (Listenzeile &zeile : liste.Zeilen) zeile.Markiert = false;
-  EXPECT_EQ(Zeilen_verketten(liste, 1, QStringLiteral("'"), QStringLiteral(",")), QString());
-}
+  EXPECT_EQ(verkettet(), QString());
 
-TEST(Pruefliste_Test, Zeile_waehlen) {
-  Pruefliste liste = Stati();
-  Zeile_waehlen(liste, 1, QStringLiteral("3"));
+  Zeile_waehlen(liste, 1, u"3"_qs);
   EXPECT_EQ(liste.Gewaehlt, 2);
-  Zeile_waehlen(liste, 0, QStringLiteral("Offen"));
+  Zeile_waehlen(liste, 0, u"Offen"_qs);
   EXPECT_EQ(liste.Gewaehlt, 0);
   Zeile_waehlen(liste, 1, QString());  // the row without that column has no empty cell there
   EXPECT_EQ(liste.Gewaehlt, -1);
 }
 
 TEST(Ports_Test, ohne_Installation_die_Antwort_die_am_wenigsten_aendert) {
-  const auto fragen = [](Knoepfe k) {
-    return dialoge().Meldung(QStringLiteral("T"), {}, Symbol::Frage, k, Antwort::Ja);
-  };
+  const auto fragen = [](Knoepfe k) { return dialoge().Meldung(u"T"_qs, {}, Symbol::Frage, k, Antwort::Ja); };
   EXPECT_EQ(fragen(Knoepfe::OK), Antwort::OK);
   EXPECT_EQ(fragen(Knoepfe::JaNein), Antwort::Nein);
   EXPECT_EQ(fragen(Knoepfe::JaNeinAbbrechen), Antwort::Abbrechen);
   EXPECT_EQ(fragen(Knoepfe::OKAbbrechen), Antwort::Abbrechen);
-  EXPECT_TRUE(dialoge().Eingabe({}, {}, QStringLiteral("Vorgabe")).isEmpty());
+  EXPECT_TRUE(dialoge().Eingabe({}, {}, u"Vorgabe"_qs).isEmpty());
   EXPECT_FALSE(dialoge().Farbe(0xFF0000).has_value());
-  EXPECT_FALSE(dialoge().Schirm_zeigen(QStringLiteral("frmMain")));
+  EXPECT_FALSE(dialoge().Schirm_zeigen(u"frmMain"_qs));
   EXPECT_TRUE(drucker().Namen().isEmpty());
-  const auto komponente = Host_Komponente_erzeugen(QStringLiteral("dta.common"));
-  EXPECT_FALSE(Host_Komponente_aufrufen(komponente.get(), QStringLiteral("Initialisierung"), {}).isValid());
+  const auto komponente = Host_Komponente_erzeugen(u"dta.common"_qs);
+  EXPECT_FALSE(Host_Komponente_aufrufen(komponente.get(), u"Initialisierung"_qs, {}).isValid());
 }
 
 TEST(Ports_Test, Fortschritt_beginnt_ohne_alten_Abbruch) {
   Kontext.gAbbrechen = true;
-  fortschritt().ProgressAnzeigen(QStringLiteral("stumm"), 1);
+  fortschritt().ProgressAnzeigen(u"stumm"_qs, 1);
   EXPECT_FALSE(Kontext.gAbbrechen);
 
   test::Fortschritt_Skript fenster;
   fenster.Abbrechen_bei = 2;
   Kontext.gAbbrechen = true;
-  fortschritt().ProgressAnzeigen(QStringLiteral("Aufträge"), 3, false);
+  fortschritt().ProgressAnzeigen(u"Aufträge"_qs, 3, false);
   EXPECT_FALSE(Kontext.gAbbrechen);
   for (int i = 1; i <= 3 && !Kontext.gAbbrechen; ++i) fortschritt().Wert(i);
   fortschritt().Verbergen();

@@ -11,12 +11,6 @@
 namespace marklink {
 namespace {
 
-class Uhr_Attrappe : public Uhr {
- public:
-  QDateTime Jetzt() const override { return Zeit; }
-  QDateTime Zeit{QDate(2024, 3, 13), QTime(23, 59)};  // a Wednesday
-};
-
 class Zeitraum_Test : public ::testing::Test {
  protected:
   Zeitraum_Test() {
@@ -34,10 +28,9 @@ class Zeitraum_Test : public ::testing::Test {
         .toStdString();
   }
   static std::string Bedingung(int Zeitraum, const QString &Freitext = {}) {
-    return Zeitraum_ermitteln(Zeitraum, Zeitraum_Modus::Bedingung, QStringLiteral("[Date]"), Freitext)
-        .toStdString();
+    return Zeitraum_ermitteln(Zeitraum, Zeitraum_Modus::Bedingung, u"[Date]"_qs, Freitext).toStdString();
   }
-  Uhr_Attrappe Uhr;
+  test::Feste_Uhr Uhr{QDateTime(QDate(2024, 3, 13), QTime(23, 59))};  // a Wednesday
 };
 
 TEST_F(Zeitraum_Test, jede_Zeile) {
@@ -91,10 +84,9 @@ TEST_F(Zeitraum_Test, jede_Zeile) {
   EXPECT_EQ(Zeitraum_Liste_fuellen(false), liste.mid(0, Zeitraum_benutzerdefiniert));
   for (int i = 0; i < liste.size(); ++i) {
     EXPECT_EQ(liste[i].toStdString(), zeilen[i].Text);
-    EXPECT_EQ(Spanne(i, QStringLiteral("05.02.2024|07.02.2024")), zeilen[i].Spanne) << i;
+    EXPECT_EQ(Spanne(i, u"05.02.2024|07.02.2024"_qs), zeilen[i].Spanne) << i;
   }
-  for (const int fremd : {41, 1000, -1})
-    EXPECT_EQ(Spanne(fremd, QStringLiteral("05.02.2024|07.02.2024")), " - ");
+  for (const int fremd : {41, 1000, -1}) EXPECT_EQ(Spanne(fremd, u"05.02.2024|07.02.2024"_qs), " - ");
 }
 
 TEST_F(Zeitraum_Test, Monats_und_Jahreswechsel) {
@@ -117,8 +109,6 @@ TEST_F(Zeitraum_Test, Monats_und_Jahreswechsel) {
     EXPECT_EQ(Spanne(fall.Zeitraum), fall.Spanne) << fall.Heute.toString(Qt::ISODate).toStdString();
   }
   EXPECT_EQ(Monatsletzter(QDate(2024, 2, 1)), 29);
-  EXPECT_EQ(Monatsletzter(QDate(2023, 2, 28)), 28);
-  EXPECT_EQ(Monatsletzter(QDate(2023, 12, 5)), 31);
 }
 
 TEST_F(Zeitraum_Test, Woche_geht_mit_der_Uhr_weiter) {
@@ -139,14 +129,8 @@ TEST_F(Zeitraum_Test, Bedingung_in_beiden_Dialekten) {
 }
 
 TEST_F(Zeitraum_Test, Freitext_kommt_nie_in_die_Bedingung) {
-  const char16_t *texte[] = {u"",
-                             u"|",
-                             u"gestern|heute",
-                             u"01.01.2024",
-                             u"31.02.2024|01.03.2024",
-                             u"01.01.2024#; DELETE FROM T|01.02.2024",
-                             u"' OR '1'='1|' OR '1'='1"};
-  for (const auto *text : texte) {
+  for (const char16_t *text : {u"", u"|", u"gestern|heute", u"01.01.2024", u"31.02.2024|01.03.2024",
+                               u"01.01.2024#; DELETE FROM T|01.02.2024", u"' OR '1'='1|' OR '1'='1"}) {
     const QString freitext = QString::fromUtf16(text);
     const std::string jet = Bedingung(40, freitext);
     // With a bound missing BETWEEN has no operand, which no engine takes.
@@ -156,32 +140,26 @@ TEST_F(Zeitraum_Test, Freitext_kommt_nie_in_die_Bedingung) {
     Kontext.gDatabasetype = 0;
     EXPECT_EQ(jet.find_first_of("';"), std::string::npos) << jet;
   }
-  EXPECT_EQ(Bedingung(40, QStringLiteral("1.2.2024|03.02.2024")),
+  EXPECT_EQ(Bedingung(40, u"1.2.2024|03.02.2024"_qs),
             "[Date] BETWEEN #2/1/2024 00:00:00# AND #2/3/2024 00:00:00#");
 }
 
 class Zeitraum_in_der_Abfrage : public test::Mandant_Test {};
 
 TEST_P(Zeitraum_in_der_Abfrage, letzter_Tag_nach_Mitternacht_faellt_heraus) {
-  int nummer = 0;
-  const auto zeile = [&](const char *tag) {
-    Mandant.Zeile(QStringLiteral("WebshopOrdersXTC"),
-                  {QStringLiteral("OrderID"), ++nummer, QStringLiteral("Date"),
-                   QDateTime::fromString(QLatin1String(tag), Qt::ISODate)});
-  };
   for (const char *tag :
-       {"2024-01-01T00:00:00", "2024-12-31T00:00:00", "2024-12-31T00:00:01", "2023-12-31T23:59:59"})
-    zeile(tag);
+       {"2024-01-01 00:00:00", "2024-12-31 00:00:00", "2024-12-31 00:00:01", "2023-12-31 23:59:59"})
+    Mandant.Zeile(u"WebshopOrdersXTC"_qs,
+                  {u"OrderID"_qs, QLatin1String(tag), u"Date"_qs, QLatin1String(tag)});
   const auto treffer = [](int zeitraum, const QString &freitext) {
-    const QString bedingung =
-        Zeitraum_ermitteln(zeitraum, Zeitraum_Modus::Bedingung, QStringLiteral("[Date]"), freitext);
+    const QString bedingung = Zeitraum_ermitteln(zeitraum, Zeitraum_Modus::Bedingung, u"[Date]"_qs, freitext);
     db::Recordset rs;
     const bool gut = rs.Open(db::Anweisung("SELECT * FROM WebshopOrdersXTC WHERE ", db::Teiltext{bedingung}),
                              Kontext.gConnectionString);
     return gut ? rs.RecordCount() : -1;
   };
   EXPECT_EQ(treffer(1, {}), 2);
-  EXPECT_EQ(treffer(40, QStringLiteral("31.12.2023|31.12.2024")), 3);
+  EXPECT_EQ(treffer(40, u"31.12.2023|31.12.2024"_qs), 3);
   for (const char16_t *text : {u"", u"gestern|31.12.2024", u"01.01.2024|' OR '1'='1"})
     EXPECT_EQ(treffer(40, QString::fromUtf16(text)), -1);
 }

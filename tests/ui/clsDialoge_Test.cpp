@@ -18,13 +18,12 @@ TEST(clsDialoge_Test, Antworten_durch_Taste_und_Schliessen) {
   const auto fragen = [&dialoge](Knoepfe Auswahl, const test::Modale_Schritte::Schritt &Tun) {
     test::Modale_Schritte schritte;
     schritte.Dann(Tun);
-    return dialoge.Meldung(QStringLiteral("Löschen"), {QStringLiteral("<b>a</b>"), QStringLiteral("b")},
-                           Symbol::Frage, Auswahl, Antwort::Ja);
+    return dialoge.Meldung(u"Löschen"_qs, {u"<b>a</b>"_qs, u"b"_qs}, Symbol::Frage, Auswahl, Antwort::Ja);
   };
   const auto enter = [](QWidget &w) {
     auto &box = dynamic_cast<QMessageBox &>(w);
-    EXPECT_EQ(box.text(), QStringLiteral("<b>a</b>\nb"));
-    EXPECT_EQ(box.button(QMessageBox::Yes)->text().remove(u'&'), QStringLiteral("Ja"));
+    EXPECT_EQ(box.text(), u"<b>a</b>\nb"_qs);
+    EXPECT_EQ(box.button(QMessageBox::Yes)->text().remove(u'&'), u"Ja"_qs);
     QTest::keyClick(&w, Qt::Key_Return);
   };
   const auto escape = [](QWidget &w) { QTest::keyClick(&w, Qt::Key_Escape); };

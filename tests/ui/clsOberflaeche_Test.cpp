@@ -37,7 +37,7 @@ TEST(clsOberflaeche_Test, laesst_dem_Host_was_ihm_gehoert) {
 
 TEST(clsOberflaeche_Test, ein_Feld_ist_beim_Betreten_markiert_und_bleibt_es_wie_verlassen) {
   QDialog fenster;
-  QLineEdit feld(QStringLiteral("alt"), &fenster);
+  QLineEdit feld(u"alt"_qs, &fenster);
   Text_markieren(&fenster);
   const auto fokus = [&feld](QEvent::Type Art, Qt::FocusReason Grund) {
     QFocusEvent ereignis(Art, Grund);

@@ -16,6 +16,7 @@
 
 #include "host/Kontext.h"
 #include "support/Fenster_Test.h"
+#include "support/Testdateien.h"
 #include "support/Testmandant.h"
 #include "ui/Hilfe.h"
 #include "ui/Hilfethemen.h"
@@ -24,12 +25,11 @@
 namespace marklink {
 namespace {
 
-const QString Ordner = QStringLiteral(":/marklink/hilfe/");
+const QString Ordner = u":/marklink/hilfe/"_qs;
 
 QString Lesen(const QString &Seite) {
-  QFile datei(Ordner + Seite);
-  EXPECT_TRUE(datei.open(QIODevice::ReadOnly)) << Seite.toStdString();
-  return QString::fromUtf8(datei.readAll());
+  EXPECT_TRUE(QFile::exists(Ordner + Seite)) << Seite.toStdString();
+  return QString::fromUtf8(test::Datei_lesen(Ordner + Seite));
 }
 
 QStringList Fundstellen(const QString &Text, const char *Muster) {
@@ -43,8 +43,7 @@ QStringList Fundstellen(const QString &Text, const char *Muster) {
 bool Ziel_vorhanden(const QString &Ziel, const QString &Von) {
   const QString seite = Ziel.section(u'#', 0, 0), stelle = Ziel.section(u'#', 1);
   if (!seite.isEmpty() && !QFile::exists(Ordner + seite)) return false;
-  return stelle.isEmpty() ||
-         Lesen(seite.isEmpty() ? Von : seite).contains(QStringLiteral("id=\"%1\"").arg(stelle));
+  return stelle.isEmpty() || Lesen(seite.isEmpty() ? Von : seite).contains(u"id=\"%1\""_qs.arg(stelle));
 }
 
 TEST(frmHilfe_Seiten, Jedes_Thema_hat_seine_Seite) {
@@ -55,17 +54,17 @@ TEST(frmHilfe_Seiten, Jedes_Thema_hat_seine_Seite) {
     seiten << seite;
   }
   EXPECT_EQ(seiten.size(), qsizetype(Hilfethemen().size())) << "two topics with the same page";
-  EXPECT_EQ(Hilfeseite(1), QStringLiteral("index.html"));
+  EXPECT_EQ(Hilfeseite(1), u"index.html"_qs);
 }
 
 TEST(frmHilfe_Seiten, Jeder_Verweis_und_jedes_Bild_ist_da) {
-  const QStringList seiten = QDir(Ordner).entryList({QStringLiteral("*.html")});
+  const QStringList seiten = QDir(Ordner).entryList({u"*.html"_qs});
   EXPECT_GE(seiten.size(), 10);
-  const QString inhalt = Lesen(QStringLiteral("index.html"));
+  const QString inhalt = Lesen(u"index.html"_qs);
   QSet<QString> bilder;
   for (const QString &seite : seiten) {
     const QString text = Lesen(seite);
-    EXPECT_TRUE(seite == u"index.html" || inhalt.contains(QStringLiteral("href=\"%1\"").arg(seite)))
+    EXPECT_TRUE(seite == u"index.html" || inhalt.contains(u"href=\"%1\""_qs.arg(seite)))
         << seite.toStdString() << " is not in the contents";
     for (const QString &ziel : Fundstellen(text, "<a href=\"([^\"]+)\""))
       EXPECT_TRUE(Ziel_vorhanden(ziel, seite)) << seite.toStdString() << " -> " << ziel.toStdString();
@@ -77,7 +76,7 @@ TEST(frmHilfe_Seiten, Jeder_Verweis_und_jedes_Bild_ist_da) {
     EXPECT_EQ(Fundstellen(text, "alt=\"([^\"]+)\"").size() * 2, quellen.size())
         << seite.toStdString() << ": light, dark and what it shows for each picture";
   }
-  for (const QString &bild : QDir(Ordner + QStringLiteral("bilder")).entryList(QDir::Files))
+  for (const QString &bild : QDir(Ordner + u"bilder"_qs).entryList(QDir::Files))
     EXPECT_TRUE(bilder.contains(bild)) << bild.toStdString() << " is on no page";
 }
 
@@ -96,22 +95,20 @@ class frmHilfe_Test : public test::Mandant_Test {
   }
   static QTextBrowser &Text() { return test::Kind<QTextBrowser>(*Fenster(), u"txtSeite"); }
   static QString Seite() { return Text().source().toString().section(u'/', -1); }
-  static void Knopf(const char16_t *Name) {
-    QTest::mouseClick(&test::Kind<QPushButton>(*Fenster(), Name), Qt::LeftButton);
-  }
+  static void Knopf(const char16_t *Name) { test::Klick(*Fenster(), Name); }
 };
 INSTANTIATE_TEST_SUITE_P(Typ, frmHilfe_Test, ::testing::Values(0), test::Typname);
 
 TEST_P(frmHilfe_Test, Blaettern_und_schliessen) {
   frmHilfe &hilfe = Zeigen(Hilfethema::Liste_Sprachen);
-  EXPECT_EQ(Seite(), QStringLiteral("listen.html#sprachen"));
-  EXPECT_EQ(hilfe.windowTitle(), QStringLiteral("Listen – Hilfe zu Marklink"));
+  EXPECT_EQ(Seite(), u"listen.html#sprachen"_qs);
+  EXPECT_EQ(hilfe.windowTitle(), u"Listen – Hilfe zu Marklink"_qs);
   Knopf(u"cmdInhalt");
-  EXPECT_EQ(Seite(), QStringLiteral("index.html"));
+  EXPECT_EQ(Seite(), u"index.html"_qs);
   QTest::keyClick(&Text(), Qt::Key_Left, Qt::AltModifier);
-  EXPECT_EQ(Seite(), QStringLiteral("listen.html#sprachen"));
+  EXPECT_EQ(Seite(), u"listen.html#sprachen"_qs);
   Knopf(u"cmdVor");
-  EXPECT_EQ(Seite(), QStringLiteral("index.html"));
+  EXPECT_EQ(Seite(), u"index.html"_qs);
   EXPECT_FALSE(test::Kind<QPushButton>(hilfe, u"cmdVor").isEnabled());
   hilfe.resize(700, 500);
   QTest::keyClick(&Text(), Qt::Key_Escape);
@@ -125,17 +122,17 @@ TEST_P(frmHilfe_Test, Suchen_auf_der_Seite) {
   QTest::keyClick(&Text(), Qt::Key_F, Qt::ControlModifier);
   auto &suche = test::Kind<QLineEdit>(hilfe, u"txtSuche");
   EXPECT_EQ(QApplication::focusWidget(), &suche);
-  QTest::keyClicks(&suche, QStringLiteral("ordner"));
+  QTest::keyClicks(&suche, u"ordner"_qs);
   const int erste = Text().textCursor().selectionStart();
-  EXPECT_EQ(Text().textCursor().selectedText().toLower(), QStringLiteral("ordner"));
+  EXPECT_EQ(Text().textCursor().selectedText().toLower(), u"ordner"_qs);
   QTest::keyClick(&suche, Qt::Key_Return);
   EXPECT_GT(Text().textCursor().selectionStart(), erste);
   QTest::keyClick(&suche, Qt::Key_F3, Qt::ShiftModifier);
   EXPECT_EQ(Text().textCursor().selectionStart(), erste);
   QTest::keyClick(&suche, Qt::Key_F3, Qt::ShiftModifier);
   EXPECT_GT(Text().textCursor().selectionStart(), erste) << "goes on at the other end of the page";
-  QTest::keyClicks(&suche, QStringLiteral("xyz"));
-  EXPECT_EQ(test::Kind<QLabel>(hilfe, u"lbSuche").text(), QStringLiteral("nicht gefunden"));
+  QTest::keyClicks(&suche, u"xyz"_qs);
+  EXPECT_EQ(test::Kind<QLabel>(hilfe, u"lbSuche").text(), u"nicht gefunden"_qs);
   EXPECT_FALSE(Text().textCursor().hasSelection());
 }
 
@@ -146,11 +143,11 @@ TEST_P(frmHilfe_Test, Bedienbar_ueber_einem_modalen_Fenster) {
   Zeigen(Hilfethema::Auftragsverwaltung);
   test::Zeigen(dialog);
   frmHilfe &hilfe = Zeigen(Hilfethema::Bestellstatus);
-  EXPECT_EQ(Seite(), QStringLiteral("bestellstatus.html"));
+  EXPECT_EQ(Seite(), u"bestellstatus.html"_qs);
   // To the window, not to the button: this is what a window that is blocked does not get.
   auto &inhalt = test::Kind<QPushButton>(hilfe, u"cmdInhalt");
   QTest::mouseClick(hilfe.windowHandle(), Qt::LeftButton, {}, inhalt.mapTo(&hilfe, inhalt.rect().center()));
-  EXPECT_EQ(Seite(), QStringLiteral("index.html"));
+  EXPECT_EQ(Seite(), u"index.html"_qs);
   dialog.reject();
   EXPECT_TRUE(hilfe.isVisible()) << "stays with the window below";
   EXPECT_EQ(hilfe.parentWidget(), &pult);
@@ -160,11 +157,11 @@ TEST_P(frmHilfe_Test, Bedienbar_ueber_einem_modalen_Fenster) {
 
 TEST_P(frmHilfe_Test, F1_mitten_in_einem_Lauf) {
   frmProgress lauf;
-  lauf.Einrichten(QStringLiteral("Lauf"), 3, true);
+  lauf.Einrichten(u"Lauf"_qs, 3, true);
   test::Zeigen(lauf);
   QTest::keyClick(&lauf, Qt::Key_F1);
   ASSERT_NE(Fenster(), nullptr);
-  EXPECT_EQ(Seite(), QStringLiteral("fortschritt.html"));
+  EXPECT_EQ(Seite(), u"fortschritt.html"_qs);
   EXPECT_FALSE(Kontext.gAbbrechen) << "the run goes on";
 }
 
@@ -173,7 +170,7 @@ TEST_P(frmHilfe_Test, Bilder_passen_zum_Desktop_und_in_das_Fenster) {
   const auto bild = [] {
     return Text()
         .document()
-        ->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("bilder/auftragsverwaltung.png")))
+        ->resource(QTextDocument::ImageResource, QUrl(u"bilder/auftragsverwaltung.png"_qs))
         .value<QPixmap>()
         .toImage();
   };
@@ -184,12 +181,7 @@ TEST_P(frmHilfe_Test, Bilder_passen_zum_Desktop_und_in_das_Fenster) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return bild() == hell; }));
   hilfe.resize(700, 500);
   EXPECT_TRUE(QTest::qWaitFor([&] { return bild().width() < 700; }));
-  test::Bild_machen(hilfe, QStringLiteral("hilfe_schmal"));
-  hilfe.resize(1040, 760);
-  for (const Hilfethemenseite &thema : Hilfethemen()) {
-    Zeigen(thema.Thema);
-    test::Bild_machen(hilfe, QStringLiteral("hilfe_%1").arg(thema.Thema));
-  }
+  test::Bild_machen(hilfe, u"hilfe_schmal"_qs);
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ TEST(frmProgress_Test, laesst_sich_vor_dem_Fenster_des_Laufs_abbrechen) {
   QWidget erstes;
   erstes.setGeometry(0, 0, 300, 200);
   test::Zeigen(erstes);
-  fortschritt.ProgressAnzeigen(QStringLiteral("Lauf"), 3);
+  fortschritt.ProgressAnzeigen(u"Lauf"_qs, 3);
   EXPECT_TRUE(Abbrechen_klicken());
   fortschritt.Verbergen();
 
@@ -44,7 +44,7 @@ TEST(frmProgress_Test, laesst_sich_vor_dem_Fenster_des_Laufs_abbrechen) {
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&pult));
   QApplication::setActiveWindow(nullptr);
   for (const char *lauf : {"first", "in one go with the first"}) {
-    fortschritt.ProgressAnzeigen(QStringLiteral("Lauf"), 3);
+    fortschritt.ProgressAnzeigen(u"Lauf"_qs, 3);
     EXPECT_TRUE(Abbrechen_klicken()) << lauf;
     EXPECT_LE((Gezeigt()->frameGeometry().center() - pult.frameGeometry().center()).manhattanLength(), 4)
         << lauf;
