@@ -3,13 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "articles/Bildflaeche.h"
 #include "articles/clsBildfeld.h"
 #include "support/Dialoge_Skript.h"
 #include "support/Fenster_Test.h"
+#include "support/Testdateien.h"
 
 namespace marklink {
 namespace {
@@ -18,9 +18,7 @@ class clsImage_Test : public testing::Test {
  protected:
   QString Datei(const QByteArray &Bytes) {
     const QString pfad = Neuer_Pfad();
-    QFile datei(pfad);
-    EXPECT_TRUE(datei.open(QIODevice::WriteOnly));
-    datei.write(Bytes);
+    test::Datei_schreiben(pfad, Bytes);
     return pfad;
   }
   QString Bild(const char *Format, QSize Groesse, const QColor &Farbe = Qt::red) {
@@ -31,7 +29,7 @@ class clsImage_Test : public testing::Test {
     return pfad;
   }
   /// Names that say nothing of the content.
-  QString Neuer_Pfad() { return QStringLiteral("%1/%2.jpg").arg(Ordner.path()).arg(++Nummer); }
+  QString Neuer_Pfad() { return u"%1/%2.jpg"_qs.arg(Ordner.path()).arg(++Nummer); }
   QTemporaryDir Ordner;
   int Nummer = 0;
 };
@@ -94,10 +92,10 @@ TEST_F(clsImage_Test, Skalieren_fuellt_den_Rest_mit_dem_Hintergrund) {
   EXPECT_EQ(bild.pixelColor(50, 50), QColor(Qt::red));
   EXPECT_EQ(bild.pixelColor(50, 90), QColor(Qt::white));
   test::Dialoge_Skript dialoge;
-  dialoge.Erwarten(QStringLiteral("GDI+ Module"));
+  dialoge.Erwarten(u"GDI+ Module"_qs);
   const QString datei = Datei("kein Bild");
   EXPECT_TRUE(Bild_skalieren(datei, {100, 100}, Qt::white, true).isNull());
-  EXPECT_EQ(dialoge.Gezeigt[0].Zeilen, QStringList{QStringLiteral("Error loading picture ") + datei});
+  EXPECT_EQ(dialoge.Gezeigt[0].Zeilen, QStringList{u"Error loading picture "_qs + datei});
 }
 
 TEST_F(clsImage_Test, Bildfeld_folgt_dem_Desktop) {

@@ -13,14 +13,11 @@
 #include "support/Dialoge_Skript.h"
 #include "support/Fenster_Test.h"
 #include "support/Testmandant.h"
-#include "ui/Hilfe.h"
 #include "ui/Schirme.h"
 #include "ui/clsTabelle.h"
 
 namespace marklink {
 namespace {
-
-int Gezeigtes_Thema = 0;
 
 class frmListen_Test : public test::Mandant_Test {
  protected:
@@ -32,12 +29,9 @@ class frmListen_Test : public test::Mandant_Test {
                     {u"Description"_qs, QString::fromUtf16(text), u"WebshopID"_qs, QString::number(++nummer),
                      u"Colour"_qs, farbe, u"Active"_qs, true});
     Auftragsstatusliste_aufbauen();
-    Hilfe_setzen([](int Thema) { Gezeigtes_Thema = Thema; });
     Fenster = std::make_unique<frmListen>(Listen()[1]);
     test::Zeigen(*Fenster);
   }
-  ~frmListen_Test() override { Hilfe_setzen(nullptr); }
-
   clsTabelle &Grid() { return test::Kind<clsTabelle>(*Fenster, u"jgTab"); }
   /// Each key goes where the focus is by then: the first one opens a cell's editor.
   static void Tippen(const QString &Text) {
@@ -47,9 +41,7 @@ class frmListen_Test : public test::Mandant_Test {
     QTest::keyClick(QApplication::focusWidget(), K);
     QCoreApplication::processEvents();
   }
-  void Klick(const char16_t *Knopf) {
-    QTest::mouseClick(&test::Kind<QPushButton>(*Fenster, Knopf), Qt::LeftButton);
-  }
+  void Klick(const char16_t *Knopf) { test::Klick(*Fenster, Knopf); }
   void Klick(int Zeile, int Spalte) {
     QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, test::Mitte(Grid(), Zeile, Spalte));
   }
@@ -60,6 +52,7 @@ class frmListen_Test : public test::Mandant_Test {
     return zeilen.join(u' ');
   }
   test::Dialoge_Skript Dialoge;
+  test::Hilfe_Skript Hilfe;
   std::unique_ptr<frmListen> Fenster;
 };
 MARKLINK_BEIDE_TYPEN(frmListen_Test);
@@ -101,7 +94,7 @@ TEST_P(frmListen_Test, neue_Zeile_Standard_und_Farbe_mit_OK) {
 
 TEST_P(frmListen_Test, Schliessen_fragt_nach_Aenderungen) {
   Taste(Qt::Key_F1);
-  EXPECT_EQ(Gezeigtes_Thema, Listen()[1].Hilfethema);
+  EXPECT_EQ(Hilfe.Thema, Listen()[1].Hilfethema);
   Taste(Qt::Key_Escape);
   EXPECT_FALSE(Fenster->isVisible()) << "nothing changed, nothing asked";
   for (const Antwort antwort : {Antwort::Abbrechen, Antwort::Nein, Antwort::Ja}) {
