@@ -13,22 +13,13 @@ namespace {
 class Demomandant_Test : public test::Mandant_Test {
  protected:
   Demomandant_Test() {
-    const auto Steuer = [this](const char *Schluessel, double Prozent) {
-      Mandant.Zeile(QStringLiteral("Taxes"), {QStringLiteral("TaxKeyNumber"), QLatin1String(Schluessel),
-                                              QStringLiteral("Percentage"), Prozent});
-    };
-    Steuer("0", 0);
-    Steuer("1", 19);
-    Steuer("2", 7);
-    const auto Art = [this](const char *Name, bool Standard) {
-      Mandant.Zeile(QStringLiteral("ArticleTypes"),
-                    {QStringLiteral("Description"), QLatin1String(Name), QStringLiteral("Stock"), true,
-                     QStringLiteral("Standard"), Standard});
-    };
-    Art("Dienst", false);
-    Art("Lagerartikel", true);
-    Mandant.Zeile(QStringLiteral("Units"),
-                  {QStringLiteral("Description"), QStringLiteral("Paar"), QStringLiteral("Active"), true});
+    for (const auto &[Schluessel, Prozent] : {std::pair{0, 0}, {1, 19}, {2, 7}})
+      Mandant.Zeile(u"Taxes"_qs,
+                    {u"TaxKeyNumber"_qs, QString::number(Schluessel), u"Percentage"_qs, Prozent});
+    for (const auto &[Art, Standard] : {std::pair{u"Dienst"_qs, false}, {u"Lagerartikel"_qs, true}})
+      Mandant.Zeile(u"ArticleTypes"_qs,
+                    {u"Description"_qs, Art, u"Stock"_qs, true, u"Standard"_qs, Standard});
+    Mandant.Zeile(u"Units"_qs, {u"Description"_qs, u"Paar"_qs, u"Active"_qs, true});
     EXPECT_TRUE(Demomandant_schreiben(Kontext.gConnectionString, Demo_Stichtag()));
   }
   static int Anzahl(const db::Anweisung &Sql) { return Abfragen(Sql).RecordCount(); }
@@ -45,7 +36,7 @@ TEST_P(Demomandant_Test, Jede_Bestellzeile_findet_ihren_Artikel_ausser_den_gewol
       QStringList Werte;
       for (const Positionsoption &O : P.Optionen) Werte << O.Wert;
       db::Anweisung Bedingung("WebshopID = ", db::Wert{QString::number(P.Artikel)});
-      Bedingung += db::Anweisung(" AND WebshopVariantText = ", db::Wert{Werte.join(QStringLiteral(", "))});
+      Bedingung += db::Anweisung(" AND WebshopVariantText = ", db::Wert{Werte.join(u", "_qs)});
       ASSERT_TRUE(Artikelliste.Filter(Bedingung));
       if (const Artikel *A = D.Artikel_mit_Id(P.Artikel); !A || A->Nur_im_Shop) {
         ++(A ? Nur_im_Shop : Geloescht);
@@ -55,11 +46,11 @@ TEST_P(Demomandant_Test, Jede_Bestellzeile_findet_ihren_Artikel_ausser_den_gewol
       ASSERT_EQ(Artikelliste.RecordCount(), 1)
           << P.Nummer.toStdString() << Werte.join(QLatin1Char('/')).toStdString();
       Artikelliste.MoveFirst();
-      if (P.Menge > Artikelliste.Number(QStringLiteral("Disposable"))) ++Knapp;
+      if (P.Menge > Artikelliste.Number(u"Disposable"_qs)) ++Knapp;
       // A private buyer paid exactly the price in the books, unless the article was on offer.
       if (B.Brutto && B.Kurs == 10000 && P.Steuersatz > 0 && P.Optionen.empty() &&
-          !Artikelliste.Flag(QStringLiteral("SpecialOfferPrice"))) {
-        EXPECT_EQ(std::llround(Artikelliste.Number(QStringLiteral("GrossPrice")) * 100), P.Einzelpreis)
+          !Artikelliste.Flag(u"SpecialOfferPrice"_qs)) {
+        EXPECT_EQ(std::llround(Artikelliste.Number(u"GrossPrice"_qs) * 100), P.Einzelpreis)
             << P.Nummer.toStdString();
       }
     }
@@ -73,34 +64,33 @@ TEST_P(Demomandant_Test, Bestand_der_Artikel_ist_die_Summe_der_Lagerzeilen) {
   std::map<QString, double> Summen;
   bool Aussen = false;
   for (db::Recordset L = Abfragen("SELECT * FROM Warehouse"); !L.IsEOF(); L.MoveNext()) {
-    Summen[L.Text(QStringLiteral("ArticleNumber"))] += L.Number(QStringLiteral("Disposable"));
-    EXPECT_EQ(L.Number(QStringLiteral("Quantity")),
-              L.Number(QStringLiteral("Disposable")) + L.Number(QStringLiteral("Unsociable")));
-    Aussen |= !L.Text(QStringLiteral("StorageNumber")).startsWith(QLatin1Char('1'));
+    Summen[L.Text(u"ArticleNumber"_qs)] += L.Number(u"Disposable"_qs);
+    EXPECT_EQ(L.Number(u"Quantity"_qs), L.Number(u"Disposable"_qs) + L.Number(u"Unsociable"_qs));
+    Aussen |= !L.Text(u"StorageNumber"_qs).startsWith(QLatin1Char('1'));
   }
   EXPECT_TRUE(Aussen) << "stock out of the orders' reach";
   std::map<QString, double> Varianten;
   int Hauptartikel = 0;
   db::Recordset A = Abfragen({"SELECT * FROM Articles WHERE Character = ", db::Zahl(Kontext.gSQL_False)});
   for (; !A.IsEOF(); A.MoveNext()) {
-    if (A.Text(QStringLiteral("WebshopID")).isEmpty()) continue;  // the host's own, without the shop's form
-    const QString Nummer = A.Text(QStringLiteral("ArticleNumber"));
-    if (A.Flag(QStringLiteral("Variant")))
-      Varianten[A.Text(QStringLiteral("ArticleNumberVariant"))] += A.Number(QStringLiteral("Disposable"));
+    if (A.Text(u"WebshopID"_qs).isEmpty()) continue;  // the host's own, without the shop's form
+    const QString Nummer = A.Text(u"ArticleNumber"_qs);
+    if (A.Flag(u"Variant"_qs))
+      Varianten[A.Text(u"ArticleNumberVariant"_qs)] += A.Number(u"Disposable"_qs);
     else
       ++Hauptartikel;
-    if (A.Flag(QStringLiteral("Variant")) || A.Text(QStringLiteral("LayoutNumber")).isEmpty()) {
-      EXPECT_EQ(A.Number(QStringLiteral("Disposable")), Summen[Nummer]) << Nummer.toStdString();
+    if (A.Flag(u"Variant"_qs) || A.Text(u"LayoutNumber"_qs).isEmpty()) {
+      EXPECT_EQ(A.Number(u"Disposable"_qs), Summen[Nummer]) << Nummer.toStdString();
     }
-    EXPECT_FALSE(A.Text(QStringLiteral("VatCode")).isEmpty() ||
-                 A.Text(QStringLiteral("ArticleType")) != QLatin1String("Lagerartikel"))
+    EXPECT_FALSE(A.Text(u"VatCode"_qs).isEmpty() ||
+                 A.Text(u"ArticleType"_qs) != QLatin1String("Lagerartikel"))
         << Nummer.toStdString();
   }
   EXPECT_EQ(Hauptartikel, 116);
   EXPECT_FALSE(Varianten.empty());
   for (const auto &[Nummer, Bestand] : Varianten)
     EXPECT_EQ(Abfragen({"SELECT * FROM Articles WHERE ArticleNumber = ", db::Wert{Nummer}})
-                  .Number(QStringLiteral("Disposable")),
+                  .Number(u"Disposable"_qs),
               Bestand)
         << Nummer.toStdString();
 }
@@ -110,23 +100,23 @@ TEST_P(Demomandant_Test, Varianten_fuehren_ihre_Auspraegungen) {
   for (db::Recordset S =
            Abfragen({"SELECT * FROM ArticlePartslist WHERE Layout = ", db::Zahl(Kontext.gSQL_True)});
        !S.IsEOF() && Zeilen < 60; S.MoveNext(), ++Zeilen) {
-    const db::Recordset Auspraegung = Abfragen(
-        {"SELECT * FROM Articles WHERE ArticleNumber = ", db::Wert{S.Text(QStringLiteral("ArticleNumber"))}});
-    EXPECT_TRUE(Auspraegung.Flag(QStringLiteral("Character")) && Auspraegung.Flag(QStringLiteral("Variant")));
-    EXPECT_EQ(Auspraegung.Text(QStringLiteral("ShortText")), S.Text(QStringLiteral("ShortText")));
-    EXPECT_EQ(S.Text(QStringLiteral("WebshopAttributes")).count(QLatin1Char('\\')), 5);
+    const db::Recordset Auspraegung =
+        Abfragen({"SELECT * FROM Articles WHERE ArticleNumber = ", db::Wert{S.Text(u"ArticleNumber"_qs)}});
+    EXPECT_TRUE(Auspraegung.Flag(u"Character"_qs) && Auspraegung.Flag(u"Variant"_qs));
+    EXPECT_EQ(Auspraegung.Text(u"ShortText"_qs), S.Text(u"ShortText"_qs));
+    EXPECT_EQ(S.Text(u"WebshopAttributes"_qs).count(QLatin1Char('\\')), 5);
   }
   EXPECT_EQ(Zeilen, 60);
-  EXPECT_EQ(Anzahl({"SELECT * FROM Articles WHERE LayoutNumber = ", db::Wert{QStringLiteral("LY0001")},
+  EXPECT_EQ(Anzahl({"SELECT * FROM Articles WHERE LayoutNumber = ", db::Wert{u"LY0001"_qs},
                     " AND Variant = ", db::Zahl(Kontext.gSQL_False)}),
             Anzahl({"SELECT DISTINCT ArticleNumberVariant FROM Articles WHERE LayoutNumber = ",
-                    db::Wert{QStringLiteral("LY0001")}, " AND Variant = ", db::Zahl(Kontext.gSQL_True)}));
+                    db::Wert{u"LY0001"_qs}, " AND Variant = ", db::Zahl(Kontext.gSQL_True)}));
 }
 
 TEST_P(Demomandant_Test, Vorhandene_Listenzeilen_bleiben_wie_sie_sind) {
   const db::Recordset Paar = Abfragen("SELECT * FROM Units WHERE Description = 'Paar'");
   EXPECT_EQ(Paar.RecordCount(), 1);
-  EXPECT_EQ(Paar.Text(QStringLiteral("WebshopID")), QString());
+  EXPECT_EQ(Paar.Text(u"WebshopID"_qs), QString());
   EXPECT_EQ(Anzahl("SELECT * FROM Units"), 18);
   EXPECT_EQ(Anzahl("SELECT * FROM CustomerTypes"), 7);
   // The books refuse the same articles a second time.

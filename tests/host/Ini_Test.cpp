@@ -3,32 +3,29 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
-
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTemporaryDir>
+
+#include "support/Testdateien.h"
 
 namespace marklink {
 namespace {
 
 class Ini_Test : public ::testing::Test {
  protected:
-  void Datei_schreiben(const QByteArray &Bytes) {
-    QFile f(Pfad);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(Bytes);
+  void Datei_schreiben(const QByteArray &Bytes) const { test::Datei_schreiben(Pfad, Bytes); }
+  QByteArray Datei_lesen() const { return test::Datei_lesen(Pfad); }
+  QString Lesen(const char *Abschnitt, const char *Schluessel) const {
+    return Ini_lesen(Pfad, QLatin1String(Abschnitt), QLatin1String(Schluessel));
   }
-  QByteArray Datei_lesen() {
-    QFile f(Pfad);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+  bool Schreiben(const char *Abschnitt, const char *Schluessel, const QString &Wert) const {
+    return Ini_schreiben(Pfad, QLatin1String(Abschnitt), QLatin1String(Schluessel), Wert);
   }
   QTemporaryDir Ordner;
-  QString Pfad = Ordner.path() + QStringLiteral("/test.ini");
+  QString Pfad = Ordner.path() + u"/test.ini"_qs;
 };
 
 TEST_F(Ini_Test, liest_wie_das_System) {
@@ -50,50 +47,46 @@ TEST_F(Ini_Test, liest_wie_das_System) {
                 {"Program", "fehlt", u""},
                 {"fehlt", "Currency", u""}};
   for (const auto &f : faelle)
-    EXPECT_EQ(Ini_lesen(Pfad, QLatin1String(f.Abschnitt), QLatin1String(f.Schluessel)),
-              QString::fromUtf16(f.Erwartet))
+    EXPECT_EQ(Lesen(f.Abschnitt, f.Schluessel), QString::fromUtf16(f.Erwartet))
         << f.Abschnitt << "/" << f.Schluessel;
-  EXPECT_EQ(Ini_lesen(Pfad + QStringLiteral(".fehlt"), QStringLiteral("a"), QStringLiteral("b")), QString());
-  EXPECT_EQ(Ini_lesen(Ordner.path(), QStringLiteral("a"), QStringLiteral("b")), QString());
+  EXPECT_EQ(Ini_lesen(Pfad + u".fehlt"_qs, u"a"_qs, u"b"_qs), QString());
+  EXPECT_EQ(Ini_lesen(Ordner.path(), u"a"_qs, u"b"_qs), QString());
 }
 
 TEST_F(Ini_Test, schneidet_bei_255_und_1500_Zeichen_ab) {
   const QString lang(2000, u'x');
-  ASSERT_TRUE(Ini_schreiben(Pfad, QStringLiteral("a"), QStringLiteral("k300"), lang.left(300)));
-  ASSERT_TRUE(Ini_schreiben(Pfad, QStringLiteral("a"), QStringLiteral("k2000"), lang));
-  EXPECT_EQ(Ini_lesen(Pfad, QStringLiteral("a"), QStringLiteral("k300")).size(), 255);
-  EXPECT_EQ(Ini_lesen_lang(Pfad, QStringLiteral("a"), QStringLiteral("k300")).size(), 300);
-  EXPECT_EQ(Ini_lesen_lang(Pfad, QStringLiteral("a"), QStringLiteral("k2000")).size(), 1500);
+  ASSERT_TRUE(Schreiben("a", "k300", lang.left(300)));
+  ASSERT_TRUE(Schreiben("a", "k2000", lang));
+  EXPECT_EQ(Lesen("a", "k300").size(), 255);
+  EXPECT_EQ(Ini_lesen_lang(Pfad, u"a"_qs, u"k300"_qs).size(), 300);
+  EXPECT_EQ(Ini_lesen_lang(Pfad, u"a"_qs, u"k2000"_qs).size(), 1500);
 }
 
 TEST_F(Ini_Test, schreibt_durch_und_laesst_alles_andere_stehen) {
   Datei_schreiben("; Kopf\r\n[Eins]\r\nA=1\r\n; Mitte\r\n\r\n[Zwei]\r\nB=2\r\n");
-  ASSERT_TRUE(Ini_schreiben(Pfad, QStringLiteral("eins"), QStringLiteral("a"), QStringLiteral("neu")));
-  ASSERT_TRUE(Ini_schreiben(Pfad, QStringLiteral("EINS"), QStringLiteral("C"), QStringLiteral("3")));
-  ASSERT_TRUE(Ini_schreiben(Pfad, QStringLiteral("Drei"), QStringLiteral("D"), QStringLiteral("4")));
+  ASSERT_TRUE(Schreiben("eins", "a", u"neu"_qs));
+  ASSERT_TRUE(Schreiben("EINS", "C", u"3"_qs));
+  ASSERT_TRUE(Schreiben("Drei", "D", u"4"_qs));
   EXPECT_EQ(Datei_lesen(),
             "; Kopf\r\n[Eins]\r\na=neu\r\n; Mitte\r\nC=3\r\n\r\n[Zwei]\r\nB=2\r\n\r\n[Drei]\r\nD=4\r\n");
 }
 
 TEST_F(Ini_Test, Werte_kommen_zurueck_wie_sie_geschrieben_wurden) {
   for (const QString &wert :
-       {QStringLiteral(" Rand "), QStringLiteral("\"quoted\""), QStringLiteral("'x'"),
-        QStringLiteral("äöü ß €"), QStringLiteral("; kein Kommentar"), QStringLiteral("[x]")}) {
-    ASSERT_TRUE(Ini_schreiben(Pfad, QStringLiteral("a"), QStringLiteral("k"), wert));
-    EXPECT_EQ(Ini_lesen(Pfad, QStringLiteral("a"), QStringLiteral("k")), wert);
+       {u" Rand "_qs, u"\"quoted\""_qs, u"'x'"_qs, u"äöü ß €"_qs, u"; kein Kommentar"_qs, u"[x]"_qs}) {
+    ASSERT_TRUE(Schreiben("a", "k", wert));
+    EXPECT_EQ(Lesen("a", "k"), wert);
   }
-  ASSERT_TRUE(
-      Ini_schreiben(Pfad, QStringLiteral("a"), QStringLiteral("k"), QStringLiteral("eins\r\n[b]\nx=zwei")));
-  EXPECT_EQ(Ini_lesen(Pfad, QStringLiteral("a"), QStringLiteral("k")), QStringLiteral("eins [b] x=zwei"));
+  ASSERT_TRUE(Schreiben("a", "k", u"eins\r\n[b]\nx=zwei"_qs));
+  EXPECT_EQ(Lesen("a", "k"), u"eins [b] x=zwei"_qs);
 }
 
 TEST_F(Ini_Test, verweigert_was_die_Datei_zerstoeren_wuerde) {
   Datei_schreiben("[a]\r\nk=1\r\n");
-  EXPECT_FALSE(Ini_schreiben(Pfad, QStringLiteral("a]\n[b"), QStringLiteral("k"), QStringLiteral("2")));
-  EXPECT_FALSE(Ini_schreiben(Pfad, QStringLiteral("a"), QStringLiteral("k=1"), QStringLiteral("2")));
-  EXPECT_FALSE(Ini_schreiben(Pfad, QStringLiteral("a"), QString(), QStringLiteral("2")));
-  EXPECT_FALSE(Ini_schreiben(Ordner.path() + QStringLiteral("/fehlt/x.ini"), QStringLiteral("a"),
-                             QStringLiteral("k"), QStringLiteral("2")));
+  EXPECT_FALSE(Schreiben("a]\n[b", "k", u"2"_qs));
+  EXPECT_FALSE(Schreiben("a", "k=1", u"2"_qs));
+  EXPECT_FALSE(Schreiben("a", "", u"2"_qs));
+  EXPECT_FALSE(Ini_schreiben(Ordner.path() + u"/fehlt/x.ini"_qs, u"a"_qs, u"k"_qs, u"2"_qs));
   EXPECT_EQ(Datei_lesen(), "[a]\r\nk=1\r\n");
 }
 
@@ -103,7 +96,7 @@ TEST_F(Ini_Test, viele_Abschnitte_und_viele_Schreiber) {
   Datei_schreiben(viele);
   QElapsedTimer uhr;
   uhr.start();
-  EXPECT_EQ(Ini_lesen(Pfad, QStringLiteral("a59999"), QStringLiteral("k")), QStringLiteral("1"));
+  EXPECT_EQ(Lesen("a59999", "k"), u"1"_qs);
   EXPECT_LT(uhr.elapsed(), 5000);
 
   Datei_schreiben("[a]\n");
@@ -116,9 +109,7 @@ TEST_F(Ini_Test, viele_Abschnitte_und_viele_Schreiber) {
     }
     bool gut = true;
     for (int i = 0; i < 10; ++i)
-      gut = Ini_schreiben(Pfad, QStringLiteral("a"), QStringLiteral("k%1_%2").arg(kind).arg(i),
-                          QStringLiteral("1")) &&
-            gut;
+      gut = Ini_schreiben(Pfad, u"a"_qs, u"k%1_%2"_qs.arg(kind).arg(i), u"1"_qs) && gut;
     _exit(gut ? 0 : 1);
   }
   for (const pid_t pid : kinder) {
@@ -131,14 +122,13 @@ TEST_F(Ini_Test, viele_Abschnitte_und_viele_Schreiber) {
 
 TEST_F(Ini_Test, sieht_Aenderungen_von_aussen) {
   Datei_schreiben("[a]\r\nk=1\r\n");
-  ASSERT_EQ(Ini_lesen(Pfad, QStringLiteral("a"), QStringLiteral("k")), QStringLiteral("1"));
+  ASSERT_EQ(Lesen("a", "k"), u"1"_qs);
   Datei_schreiben("[a]\r\nk=22\r\n");
-  EXPECT_EQ(Ini_lesen(Pfad, QStringLiteral("a"), QStringLiteral("k")), QStringLiteral("22"));
+  EXPECT_EQ(Lesen("a", "k"), u"22"_qs);
 }
 
 TEST_F(Ini_Test, neue_Datei_gehoert_nur_ihrem_Besitzer) {
-  ASSERT_TRUE(
-      Ini_schreiben(Pfad, QStringLiteral("Marklink"), QStringLiteral("password"), QStringLiteral("x")));
+  ASSERT_TRUE(Schreiben("Marklink", "password", u"x"_qs));
   EXPECT_EQ(QFile::permissions(Pfad) & (QFileDevice::ReadGroup | QFileDevice::ReadOther),
             QFileDevice::Permissions());
 }
@@ -146,15 +136,10 @@ TEST_F(Ini_Test, neue_Datei_gehoert_nur_ihrem_Besitzer) {
 TEST_F(Ini_Test, eine_volle_Platte_kostet_keine_Zeile) {
   const QByteArray vorher = "[Program]\r\nCurrency=EUR\r\nCountry=Deutschland\r\n";
   Datei_schreiben(vorher);
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit grenze{};
-  getrlimit(RLIMIT_FSIZE, &grenze);
-  const rlimit klein{30, grenze.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &klein);
-  const bool geschrieben =
-      Ini_schreiben(Pfad, QStringLiteral("Program"), QStringLiteral("Neu"), QStringLiteral("1"));
-  setrlimit(RLIMIT_FSIZE, &grenze);
-  EXPECT_FALSE(geschrieben);
+  {
+    const test::Volle_Platte voll(30);
+    EXPECT_FALSE(Schreiben("Program", "Neu", u"1"_qs));
+  }
   EXPECT_EQ(Datei_lesen(), vorher);
 }
 
