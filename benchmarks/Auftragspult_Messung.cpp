@@ -5,12 +5,11 @@
 #include <sqlite3.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 
+#include "Messung.h"
 #include "db/Recordset.h"
 #include "db/Verbindung.h"
 #include "host/Datenbank.h"
@@ -85,28 +84,13 @@ qint64 Rohdatei::Lesen() {
   return bytes;
 }
 
-template <typename Tun>
-double Sekunden(Tun T) {
-  QElapsedTimer uhr;
-  uhr.start();
-  T();
-  return double(uhr.nsecsElapsed()) / 1e9;
-}
-
-double Mitte(std::vector<double> Werte) {
-  std::sort(Werte.begin(), Werte.end());
-  return Werte[Werte.size() / 2];
-}
-
 int Messen(bool Schnell) {
   const int anzahl = Schnell ? 10'000 : 100'000, runden = Schnell ? 3 : 5;
   const QTemporaryDir ordner;
-  const QString datei = ordner.path() + QStringLiteral("/Messung.mdb");
-  Kontext.gConnectionString = QStringLiteral("Provider=SQLite;Data Source=") + datei +
-                              QStringLiteral(";Jet OLEDB:Database Password=481902");
+  Kontext.gConnectionString = Verbindung(ordner.path(), QStringLiteral("Messung"), 0);
   if (!db::Datenbank_anlegen(Kontext.gConnectionString)) return 1;
   db::Verbindungen_schliessen();
-  Rohdatei roh(datei);
+  Rohdatei roh(ordner.path() + QStringLiteral("/Messung.mdb"));
   if (!roh.Fuellen(anzahl)) return 1;
 
   qint64 text = 0;
@@ -141,7 +125,7 @@ int main(int argc, char **argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication anwendung(argc, argv);
   marklink::Oberflaeche_einrichten();
-  const bool schnell = argc > 1 && std::strcmp(argv[1], "--schnell") == 0;
+  const bool schnell = marklink::messung::Schnell(argc, argv);
   const int ergebnis = marklink::messung::Messen(schnell);
   marklink::Oberflaeche_abbauen();
   return ergebnis;

@@ -5,7 +5,6 @@
 #include <sqlite3.h>
 
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
@@ -13,8 +12,8 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 
+#include "Messung.h"
 #include "db/Verbindung.h"
 #include "host/Kontext.h"
 #include "reports/Berichtsausgabe.h"
@@ -40,18 +39,6 @@ bool Fuellen(const QString &Datei, int Anzahl) {
   const bool gut = sqlite3_exec(db, sql.constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
   sqlite3_close_v2(db);
   return gut;
-}
-
-double Sekunden(const std::function<void()> &Tun) {
-  QElapsedTimer uhr;
-  uhr.start();
-  Tun();
-  return double(uhr.nsecsElapsed()) / 1e9;
-}
-
-double Mitte(std::vector<double> Werte) {
-  std::sort(Werte.begin(), Werte.end());
-  return Werte[Werte.size() / 2];
 }
 
 Report Liste(int Anzahl) {
@@ -104,12 +91,10 @@ int Seiten_vergleichen(int Viele, int Runden) {
 int Messen(bool Schnell) {
   const int viele = Schnell ? 2'000 : 10'000, runden = Schnell ? 3 : 5;
   const QTemporaryDir ordner;
-  const QString datei = ordner.path() + QStringLiteral("/Messung.mdb");
-  Kontext.gConnectionString = QStringLiteral("Provider=SQLite;Data Source=") + datei +
-                              QStringLiteral(";Jet OLEDB:Database Password=481902");
+  Kontext.gConnectionString = Verbindung(ordner.path(), QStringLiteral("Messung"), 0);
   if (!db::Datenbank_anlegen(Kontext.gConnectionString)) return 1;
   db::Verbindungen_schliessen();
-  if (!Fuellen(datei, viele)) return 1;
+  if (!Fuellen(ordner.path() + QStringLiteral("/Messung.mdb"), viele)) return 1;
   int seiten = Ausgeben(10);  // fonts are loaded once
   std::vector<double> wenig, viel;
   for (int i = 0; i < runden; ++i) {
@@ -132,7 +117,7 @@ int Messen(bool Schnell) {
 }  // namespace marklink::messung
 
 int main(int argc, char **argv) {
-  const bool schnell = argc > 1 && std::strcmp(argv[1], "--schnell") == 0;
+  const bool schnell = marklink::messung::Schnell(argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication anwendung(argc, argv);
   return marklink::messung::Messen(schnell);

@@ -5,9 +5,9 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <vector>
 
+#include "Messung.h"
 #include "db/Verbindung.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
@@ -36,11 +36,7 @@ struct Mandant {
     K.gDatabasetype = qint16(Typ);
     K.gSQL_True = Typ == 0 ? -1 : 1;
     K.gAfkDatei = Ordner + u'/' + name + QStringLiteral(".afk");
-    K.gConnectionString =
-        Typ == 0 ? QStringLiteral("Provider=SQLite;Data Source=%1/%2.mdb;Jet OLEDB:Database Password=481902")
-                       .arg(Ordner, name)
-                 : QStringLiteral("Provider=SQLite;Initial Catalog=%2;Data Source=%1;Connect Timeout=30")
-                       .arg(Ordner, name);
+    K.gConnectionString = Verbindung(Ordner, name, Typ);
   }
 
   bool Anlegen() {
@@ -94,11 +90,6 @@ double Strecke(const Mandant &M, int Frei) {
   return gut ? double(dauer) / 1e6 / ziehungen : -1.0;
 }
 
-double Mitte(std::vector<double> Werte) {
-  std::nth_element(Werte.begin(), Werte.begin() + qsizetype(Werte.size() / 2), Werte.end());
-  return Werte[Werte.size() / 2];
-}
-
 /// False when a number was wrong.
 bool Vergleichen(const Mandant &Klein, const Mandant &Gross, int Frei, int Runden) {
   std::vector<double> klein, gross;
@@ -133,6 +124,6 @@ int Alles_messen(int Runden) {
 }  // namespace marklink::messung
 
 int main(int argc, char **argv) {
-  const bool schnell = argc > 1 && std::strcmp(argv[1], "--schnell") == 0;
+  const bool schnell = marklink::messung::Schnell(argc, argv);
   return marklink::messung::Alles_messen(schnell ? 5 : 41);
 }

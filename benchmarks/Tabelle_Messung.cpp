@@ -8,9 +8,9 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <vector>
 
+#include "Messung.h"
 #include "ui/clsTabelle.h"
 
 namespace marklink::messung {
@@ -92,10 +92,7 @@ class Seite {
     Grid_.render(&Bild_);
     Seiten_.push_back(double(uhr.nsecsElapsed()) / 1e3);
   }
-  double Mitte() {
-    std::nth_element(Seiten_.begin(), Seiten_.begin() + qsizetype(Seiten_.size() / 2), Seiten_.end());
-    return Seiten_[Seiten_.size() / 2];
-  }
+  double Mitte() const { return messung::Mitte(Seiten_); }
   int Gezeigt() const { return Grid_.verticalScrollBar()->pageStep(); }
 
  private:
@@ -124,7 +121,7 @@ int Messen(int Runden) {
 }  // namespace marklink::messung
 
 int main(int argc, char **argv) {
-  const bool schnell = argc > 1 && std::strcmp(argv[1], "--schnell") == 0;
+  const bool schnell = marklink::messung::Schnell(argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication anwendung(argc, argv);
   return marklink::messung::Messen(schnell ? 40 : 400);

@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 
+#include "Messung.h"
 #include "Rechnungen_Handarbeit.h"
 #include "db/Verbindung.h"
 #include "host/Datenbank.h"
@@ -29,11 +29,7 @@ void Mandant_waehlen(const QString &Ordner, int Typ) {
   Kontext.gDatabasetype = qint16(Typ);
   Kontext.gSQL_True = Typ == 0 ? -1 : 1;
   Kontext.gAfkDatei = Ordner + QStringLiteral("/versand.afk");
-  Kontext.gConnectionString =
-      Typ == 0 ? QStringLiteral("Provider=SQLite;Data Source=%1;Jet OLEDB:Database Password=481902")
-                     .arg(Datenbankdatei(Ordner))
-               : QStringLiteral("Provider=SQLite;Initial Catalog=versand;Data Source=%1;Connect Timeout=30")
-                     .arg(Ordner);
+  Kontext.gConnectionString = Verbindung(Ordner, QStringLiteral("versand"), Typ);
 }
 
 QString Feldwert(int Zeile, qsizetype Feld) {
@@ -149,6 +145,6 @@ int Alles_messen(int Anzahl, int Runden) {
 }  // namespace marklink::messung
 
 int main(int argc, char **argv) {
-  const bool schnell = argc > 1 && std::strcmp(argv[1], "--schnell") == 0;
+  const bool schnell = marklink::messung::Schnell(argc, argv);
   return schnell ? marklink::messung::Alles_messen(200, 1) : marklink::messung::Alles_messen(10000, 5);
 }
