@@ -510,19 +510,11 @@ TEST_P(frmMain_Test, Ein_fremder_Lauf_laesst_alles_ruhen) {
 }
 
 TEST_P(frmMain_Test, Passt_auf_den_Bildschirm) {
-  // A screen of 1280x800 at 150 %, and large letters: nothing may need more room.
-  const QFont schrift = QApplication::font();
-  QFont gross = schrift;
-  gross.setPointSize(12);
-  QApplication::setFont(gross);
-  Oeffnen();
-  Fenster->resize(853, 500);
-  EXPECT_LE(Fenster->minimumSizeHint().width(), 853);
-  EXPECT_LE(Fenster->minimumSizeHint().height(), 500);
-  test::Bild_machen(*Fenster, u"frmMain_klein"_qs);
-  Fenster->resize(1280, 770);
-  test::Bild_machen(*Fenster, u"frmMain_12"_qs);
-  QApplication::setFont(schrift);
+  const auto oeffnen = [this]() -> QWidget & {
+    Oeffnen();
+    return *Fenster;
+  };
+  test::Kleiner_Bildschirm(oeffnen, u"frmMain"_qs);
   Oeffnen();
   Klick(1, u"Invoice");
   Fenster->resize(1280, 770);
