@@ -2,8 +2,6 @@
 #include "reports/Berichtsausgabe.h"
 
 #include <fcntl.h>
-#include <signal.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,14 +11,12 @@
 
 #include "Probebericht.h"
 #include "reports/Berichtstabelle.h"
+#include "support/Testdateien.h"
 
 namespace marklink {
 namespace {
 
-QByteArray Lesen(const QString &Pfad) {
-  QFile datei(Pfad);
-  return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray("no file");
-}
+using test::Datei_lesen;
 
 QString Laufen(const QString &Programm, const QStringList &Worte) {
   QProcess prozess;
@@ -67,7 +63,7 @@ TEST_F(Berichtsausgabe_Test, PDF_mit_Text_der_sich_suchen_laesst) {
 }
 
 TEST_F(Berichtsausgabe_Test, TXT_bleibt_Zeile_fuer_Zeile_heil) {
-  const QString text = QString::fromLatin1(Lesen(Schreiben(Export_TXT, "a.txt")));
+  const QString text = QString::fromLatin1(Datei_lesen(Schreiben(Export_TXT, "a.txt")));
   const QStringList zeilen = text.split(u"\r\n"_qs);
   const QStringList anfang = {u"Personenliste"_qs,
                               u"Name;Betrag;Geburtstag;Bemerkung"_qs,
@@ -85,13 +81,13 @@ TEST_F(Berichtsausgabe_Test, TXT_bleibt_Zeile_fuer_Zeile_heil) {
 
 TEST_F(Berichtsausgabe_Test, Ein_Kopf_der_die_Seite_fuellt_verdoppelt_keine_Zeile) {
   B[Bandart::Gruppenkopf].Hoehe = 297 - 24 - 6 - 6;
-  const QString text = QString::fromLatin1(Lesen(Schreiben(Export_TXT, "a.txt")));
+  const QString text = QString::fromLatin1(Datei_lesen(Schreiben(Export_TXT, "a.txt")));
   EXPECT_EQ(text.count(u";1.234,50;"_qs), 1);
   EXPECT_EQ(text.count(u"N0;1,00;"_qs), 1);
 }
 
 TEST_F(Berichtsausgabe_Test, HTM_ist_wohlgeformt_und_ohne_fremdes_Markup) {
-  const QString text = QString::fromUtf8(Lesen(Schreiben(Export_HTM, "a.HTM")));
+  const QString text = QString::fromUtf8(Datei_lesen(Schreiben(Export_HTM, "a.HTM")));
   EXPECT_TRUE(text.contains(u"<title>Personen &amp; Orte</title>"_qs));
   EXPECT_TRUE(text.contains(u"pfiffig &amp; auffällig &lt;b&gt; {x} \\ 5 €"_qs));
   EXPECT_TRUE(text.contains(u"Złoty 名"_qs)) << "what no document may hold is gone";
@@ -103,7 +99,7 @@ TEST_F(Berichtsausgabe_Test, HTM_ist_wohlgeformt_und_ohne_fremdes_Markup) {
 }
 
 TEST_F(Berichtsausgabe_Test, RTF_haelt_jede_Zeile_ganz) {
-  const QByteArray rtf = Lesen(Schreiben(Export_RTF, "a.rtf"));
+  const QByteArray rtf = Datei_lesen(Schreiben(Export_RTF, "a.rtf"));
   EXPECT_TRUE(rtf.contains("\\{x\\} \\\\ 5 \\u8364?"));
   EXPECT_TRUE(rtf.contains("erste\\line zweite"));
   EXPECT_TRUE(rtf.contains("Z\\u322?oty ")) << "what no document may hold is gone";
@@ -131,7 +127,7 @@ TEST_F(Berichtsausgabe_Test, XLS_mit_Zahlen_und_Tagen_die_solche_sind) {
   const QString lang = QString(40'000, u'x');
   Daten.Liste.push_back({u"Zwiesel"_qs, u"alt"_qs, u"1,00"_qs, u"28.02.1900"_qs, lang});
   const QString pfad = Schreiben(Export_XLS, "a.xls");
-  const QByteArray xml = Lesen(pfad);
+  const QByteArray xml = Datei_lesen(pfad);
   EXPECT_TRUE(xml.contains("<Worksheet ss:Name=\"Personen_Orte_ _alle_ &lt;im Jahr&gt;\">"));
   EXPECT_TRUE(xml.contains(">erste; &#10;zweite<")) << "apart also where the break is dropped";
   EXPECT_TRUE(xml.contains("ss:Type=\"String\">28.02.1900<")) << "before the days that spreadsheets know";
@@ -146,7 +142,7 @@ TEST_F(Berichtsausgabe_Test, XLS_mit_Zahlen_und_Tagen_die_solche_sind) {
       u"libreoffice"_qs,
       {u"-env:UserInstallation=file://"_qs + Ordner.path() + u"/lo"_qs, u"--headless"_qs, u"--convert-to"_qs,
        u"csv:Text - txt - csv (StarCalc):59,34,76,1"_qs, u"--outdir"_qs, Ordner.path(), pfad});
-  const QString csv = QString::fromUtf8(Lesen(Ordner.path() + u"/a.csv"_qs));
+  const QString csv = QString::fromUtf8(Datei_lesen(Ordner.path() + u"/a.csv"_qs));
   EXPECT_TRUE(csv.contains(u"Müller; Söhne"_qs)) << csv.left(500).toStdString();
   EXPECT_TRUE(csv.contains(u"05.03.2024"_qs));
   EXPECT_TRUE(csv.contains(u"=1+1"_qs)) << "a text that looks like a formula stays a text";
@@ -166,19 +162,15 @@ TEST_F(Berichtsausgabe_Test, Ein_Ziel_das_sich_nicht_schreiben_laesst_bleibt_wie
 
 TEST_F(Berichtsausgabe_Test, Eine_volle_Platte_laesst_die_alte_Datei_stehen) {
   const QString pfad = Schreiben(Export_TXT, "a.txt");
-  const QByteArray vorher = Lesen(pfad);
+  const QByteArray vorher = Datei_lesen(pfad);
   Daten.Liste.pop_back();
   const Seitensatz satz(B, Daten, {});
-  rlimit grenze{};
-  getrlimit(RLIMIT_FSIZE, &grenze);
-  const rlimit eng{100, grenze.rlim_max};
-  const auto signal_vorher = signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &eng);
-  for (const Exportart art : {Export_PDF, Export_XLS, Export_RTF, Export_TXT, Export_HTM})
-    EXPECT_FALSE(Bericht_schreiben(satz, art, pfad)) << art;
-  setrlimit(RLIMIT_FSIZE, &grenze);
-  signal(SIGXFSZ, signal_vorher);
-  EXPECT_EQ(Lesen(pfad), vorher);
+  {
+    const test::Volle_Platte voll(100);
+    for (const Exportart art : {Export_PDF, Export_XLS, Export_RTF, Export_TXT, Export_HTM})
+      EXPECT_FALSE(Bericht_schreiben(satz, art, pfad)) << art;
+  }
+  EXPECT_EQ(Datei_lesen(pfad), vorher);
   EXPECT_EQ(QDir(Ordner.path()).entryList(QDir::Files).size(), 1) << "nothing half written is left";
 }
 
@@ -195,18 +187,15 @@ TEST_F(Berichtsausgabe_Test, In_eine_Pipe_wird_geschrieben_und_sie_bleibt_eine) 
 }
 
 TEST(Zielname_Test, Ordner_und_Name_getrennt) {
-  struct Fall {
-    const char16_t *Datei, *Ordner, *Name, *Endung;
-  };
-  const Fall faelle[] = {{u"C:\\Listen\\Juni.htm", u"C:\\Listen\\", u"Juni", u".htm"},
-                         {u"/tmp/a.b/Juni.HTM", u"/tmp/a.b/", u"Juni", u".HTM"},
-                         {u"htm", u"", u"", u"htm"},
-                         {u"/x/htm", u"/x/", u"", u"htm"}};
-  for (const Fall &fall : faelle) {
+  const struct {
+    const char16_t *Datei, *Teile;
+  } faelle[] = {{u"C:\\Listen\\Juni.htm", u"C:\\Listen\\|Juni|.htm"},
+                {u"/tmp/a.b/Juni.HTM", u"/tmp/a.b/|Juni|.HTM"},
+                {u"htm", u"||htm"},
+                {u"/x/htm", u"/x/||htm"}};
+  for (const auto &fall : faelle) {
     const Zielname ziel = Zielname_zerlegen(QString::fromUtf16(fall.Datei));
-    EXPECT_EQ(ziel.Ordner, QString::fromUtf16(fall.Ordner));
-    EXPECT_EQ(ziel.Name, QString::fromUtf16(fall.Name));
-    EXPECT_EQ(ziel.Endung, QString::fromUtf16(fall.Endung));
+    EXPECT_EQ(ziel.Ordner + u'|' + ziel.Name + u'|' + ziel.Endung, QString::fromUtf16(fall.Teile));
   }
 }
 

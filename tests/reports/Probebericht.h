@@ -25,7 +25,7 @@ inline Berichtselement Element(Berichtselement::Art Was, const QRectF &Ort, cons
   element.Inhalt = Inhalt;
   element.Ausrichtung = Lage;
   element.Format = Was == Berichtselement::Art::Gruppensumme || Was == Berichtselement::Art::Gesamtsumme
-                       ? QStringLiteral("#,##0.00")
+                       ? u"#,##0.00"_qs
                        : QString();
   return element;
 }
@@ -35,33 +35,33 @@ inline Bericht Probebericht() {
   using Feldart = Berichtsfeld::Art;
   constexpr auto rechts = Berichtselement::Lage::Rechts;
   Bericht b;
-  b.Dokumenttitel = QStringLiteral("Personen & Orte");
-  b.Felder = {{QStringLiteral("Ort")},
-              {QStringLiteral("Name"), QStringLiteral("Name")},
-              {QStringLiteral("Betrag"), QStringLiteral("Betrag"), Feldart::Zahl},
-              {QStringLiteral("Tag"), QStringLiteral("Geburtstag"), Feldart::Datum},
-              {QStringLiteral("Text"), QStringLiteral("Bemerkung")}};
-  b.Gruppierung = QStringLiteral("Ort");
+  b.Dokumenttitel = u"Personen & Orte"_qs;
+  b.Felder = {{u"Ort"_qs},
+              {u"Name"_qs, u"Name"_qs},
+              {u"Betrag"_qs, u"Betrag"_qs, Feldart::Zahl},
+              {u"Tag"_qs, u"Geburtstag"_qs, Feldart::Datum},
+              {u"Text"_qs, u"Bemerkung"_qs}};
+  b.Gruppierung = u"Ort"_qs;
   b.Zeilenfarben = {0xFFF2F2F2, 0xFFFFFFFF};
-  b[Bandart::Berichtskopf] = {10, {Element(Art::Text, {0, 0, 100, 8}, QStringLiteral("Personenliste"))}};
-  b[Bandart::Seitenkopf] = {6, {Element(Art::Text, {0, 1, 40, 4}, QStringLiteral("Name"))}};
-  b[Bandart::Gruppenkopf] = {8, {Element(Art::Feld, {0, 2, 100, 5}, QStringLiteral("Ort"))}};
-  Berichtselement name = Element(Art::Feld, {0, 1, 60, 4}, QStringLiteral("Name"));
+  b[Bandart::Berichtskopf] = {10, {Element(Art::Text, {0, 0, 100, 8}, u"Personenliste"_qs)}};
+  b[Bandart::Seitenkopf] = {6, {Element(Art::Text, {0, 1, 40, 4}, u"Name"_qs)}};
+  b[Bandart::Gruppenkopf] = {8, {Element(Art::Feld, {0, 2, 100, 5}, u"Ort"_qs)}};
+  Berichtselement name = Element(Art::Feld, {0, 1, 60, 4}, u"Name"_qs);
   name.Verweis = true;
-  b[Bandart::Detail] = {10,
-                        {name, Element(Art::Feld, {60, 1, 30, 4}, QStringLiteral("Betrag"), rechts),
-                         Element(Art::Feld, {100, 1, 30, 4}, QStringLiteral("Tag")),
-                         Element(Art::Feld, {0, 5, 180, 4}, QStringLiteral("Text"))}};
+  b[Bandart::Detail] = {
+      10,
+      {name, Element(Art::Feld, {60, 1, 30, 4}, u"Betrag"_qs, rechts),
+       Element(Art::Feld, {100, 1, 30, 4}, u"Tag"_qs), Element(Art::Feld, {0, 5, 180, 4}, u"Text"_qs)}};
   b[Bandart::Gruppenfuss] = {7,
-                             {Element(Art::Text, {0, 1, 40, 4}, QStringLiteral("Summe:")),
-                              Element(Art::Gruppensumme, {60, 1, 30, 4}, QStringLiteral("Betrag"), rechts)}};
+                             {Element(Art::Text, {0, 1, 40, 4}, u"Summe:"_qs),
+                              Element(Art::Gruppensumme, {60, 1, 30, 4}, u"Betrag"_qs, rechts)}};
   b[Bandart::Seitenfuss] = {
       6,
-      {Element(Art::Seite, {0, 1, 20, 4}, {}), Element(Art::Text, {20, 1, 20, 4}, QStringLiteral("von")),
+      {Element(Art::Seite, {0, 1, 20, 4}, {}), Element(Art::Text, {20, 1, 20, 4}, u"von"_qs),
        Element(Art::Seitenzahl, {40, 1, 20, 4}, {})}};
   b[Bandart::Berichtsfuss] = {12,
-                              {Element(Art::Text, {0, 2, 40, 4}, QStringLiteral("Alles:")),
-                               Element(Art::Gesamtsumme, {60, 2, 30, 4}, QStringLiteral("Betrag"), rechts)}};
+                              {Element(Art::Text, {0, 2, 40, 4}, u"Alles:"_qs),
+                               Element(Art::Gesamtsumme, {60, 2, 30, 4}, u"Betrag"_qs, rechts)}};
   return b;
 }
 

@@ -23,7 +23,7 @@ QStringList Bild(const Seitensatz &Satz) {
     Satz.Durchgehen(i, [&](const Stueck &s) {
       const QString zeile =
           s.Art == Bandart::Detail || s.Art == Bandart::Gruppenkopf ? QString::number(s.Zeile) : QString();
-      baender << QStringLiteral("BSGDFPE").mid(int(s.Art), 1) + zeile + (s.Von > 0 ? u"-"_qs : QString());
+      baender << u"BSGDFPE"_qs.mid(int(s.Art), 1) + zeile + (s.Von > 0 ? u"-"_qs : QString());
       EXPECT_GE(s.Oben, ganze_hoehe - 1) << "bands overlap on page " << i;
       EXPECT_GT(s.Bis, s.Von);
       ganze_hoehe = s.Oben + s.Bis - s.Von;
@@ -54,8 +54,8 @@ Seitenmasse Papier(int Zeilen) {
 class Seitensatz_Test : public testing::Test {
  protected:
   void Person(const char *Ort, const char *Betrag = "1,00", const QString &Text = {}) {
-    Daten.Liste.push_back({QString::fromUtf8(Ort), QStringLiteral("N%1").arg(Daten.Liste.size()),
-                           QString::fromUtf8(Betrag), QStringLiteral("05.03.2024"), Text});
+    Daten.Liste.push_back({QString::fromUtf8(Ort), u"N%1"_qs.arg(Daten.Liste.size()),
+                           QString::fromUtf8(Betrag), u"05.03.2024"_qs, Text});
   }
   Bericht B = test::Probebericht();
   Personen Daten;
@@ -73,6 +73,8 @@ TEST_F(Seitensatz_Test, Bricht_so_dass_Zusammengehoeriges_beisammen_bleibt) {
       {"AAB", 8, {u"B S G0 D0 D1 F G2 D2 F E P"_qs}},
       // The second group's head would stand alone at the foot of the page.
       {"AAAB", 6, {u"B S G0 D0 D1 D2 F P"_qs, u"S G3 D3 F E P"_qs}},
+      // A group's sums do not stand without its last row.
+      {"AAAB", 4, {u"B S G0 D0 D1 P"_qs, u"S D2 F P"_qs, u"S G3 D3 F E P"_qs}},
       // The last row goes along with the sums for which there is no room.
       {"AAAAAA", 5, {u"B S G0 D0 D1 D2 D3 P"_qs, u"S D4 D5 F E P"_qs}},
       {"AAAAAAAA", 4, {u"B S G0 D0 D1 D2 P"_qs, u"S D3 D4 D5 D6 P"_qs, u"S D7 F E P"_qs}},
@@ -103,7 +105,7 @@ TEST_F(Seitensatz_Test, Eine_Seite_kennt_Nummer_und_Zahl_und_wird_ohne_die_ander
     if (s.Art != Bandart::Seitenfuss) return;
     for (const Berichtselement &e : B[s.Art].Elemente) fuesse << satz.Text(e, s);
   });
-  EXPECT_EQ(fuesse.join(u' '), QStringLiteral("8 von %1").arg(satz.Seiten()));
+  EXPECT_EQ(fuesse.join(u' '), u"8 von %1"_qs.arg(satz.Seiten()));
   const auto malen = [&](int seite) {
     QImage bild(210, 297, QImage::Format_RGB32);
     bild.fill(Qt::white);
@@ -126,7 +128,7 @@ TEST_F(Seitensatz_Test, Eine_Seite_kennt_Nummer_und_Zahl_und_wird_ohne_die_ander
 
 TEST_F(Seitensatz_Test, Ein_Text_der_auf_keine_Seite_passt_wird_zwischen_Zeilen_geteilt) {
   QStringList zeilen;
-  for (int i = 0; i < 300; ++i) zeilen << QStringLiteral("Zeile %1").arg(i);
+  for (int i = 0; i < 300; ++i) zeilen << u"Zeile %1"_qs.arg(i);
   Person("Ulm", "1,00", zeilen.join(u"\r\n"_qs));
   Person("Ulm");
   const Seitensatz satz(B, Daten, {});
