@@ -171,22 +171,13 @@ TEST_P(frmVersender_EASYLOG_Test, Der_Zeitraum_gilt_beim_naechsten_Laden) {
 }
 
 TEST_P(frmVersender_EASYLOG_Test, Schliessen_mit_jeder_Antwort) {
-  const struct {
-    const char *Fall;
-    QString Finalize;
-    bool Frage;
-    Antwort Gegeben;
-    bool Zu;
-  } faelle[] = {{"No", u"0"_qs, true, Antwort::Nein, false},
-                {"Yes", u"0"_qs, true, Antwort::Ja, true},
-                {"no question", u"1"_qs, false, Antwort::OK, true}};
-  const auto layout = [] {
-    return Ini_lesen_lang(Kontext.gLayoutDatei, u"Layout"_qs, u"Webshop_Versandliste_xtc_easylog"_qs);
-  };
-  for (const auto &fall : faelle) {
-    Option_schreiben(u"Program"_qs, u"Finalize"_qs, fall.Finalize);
+  const QString layout = u"Webshop_Versandliste_xtc_easylog"_qs;
+  for (const QString &antwort : {u"Nein"_qs, u"Ja"_qs, u"ungefragt"_qs}) {
+    SCOPED_TRACE(antwort.toStdString());
+    const bool zu = antwort != u"Nein";
+    Option_schreiben(u"Program"_qs, u"Finalize"_qs, antwort == u"ungefragt" ? u"1"_qs : u"0"_qs);
     Option_schreiben(u"Marklink"_qs, u"ViewablePeriod"_qs, u"0"_qs);
-    Ini_schreiben(Kontext.gLayoutDatei, u"Layout"_qs, u"Webshop_Versandliste_xtc_easylog"_qs, QString());
+    Ini_schreiben(Kontext.gLayoutDatei, u"Layout"_qs, layout, QString());
     frmVersender_EASYLOG_Einstellungen anderes;
     QWidget fremdes;
     test::Zeigen(anderes);
@@ -194,16 +185,15 @@ TEST_P(frmVersender_EASYLOG_Test, Schliessen_mit_jeder_Antwort) {
     Oeffnen();
     Kind<QComboBox>(u"cboZeitraum").setCurrentIndex(1);
     Jg().setColumnWidth(3, 200);
-    const QString ort = QString::fromLatin1(fall.Fall);
-    Tippen(0, u"POOL_EMPF_ORT", ort);
-    if (fall.Frage) Dialoge.Erwarten(u"Beenden"_qs, fall.Gegeben);
+    Tippen(0, u"POOL_EMPF_ORT", antwort);
+    if (antwort != u"ungefragt") Dialoge.Erwarten(u"Beenden"_qs, zu ? Antwort::Ja : Antwort::Nein);
     Knopf(u"Beenden");
-    EXPECT_EQ(Fenster->isHidden(), fall.Zu) << fall.Fall;
-    EXPECT_EQ(Gespeichert(1, "POOL_EMPF_ORT"), fall.Zu ? ort : u"Dresden"_qs) << fall.Fall;
-    EXPECT_EQ(layout().isEmpty(), !fall.Zu) << fall.Fall;
-    EXPECT_EQ(anderes.isHidden(), fall.Zu) << "the program's other windows are unloaded";
+    EXPECT_EQ(Fenster->isHidden(), zu);
+    EXPECT_EQ(Gespeichert(1, "POOL_EMPF_ORT"), zu ? antwort : u"Dresden"_qs);
+    EXPECT_EQ(Option_lesen(u"Marklink"_qs, u"ViewablePeriod"_qs), zu ? u"1"_qs : u"0"_qs);
+    EXPECT_EQ(Ini_lesen_lang(Kontext.gLayoutDatei, u"Layout"_qs, layout).isEmpty(), !zu);
+    EXPECT_EQ(anderes.isHidden(), zu) << "the program's other windows are unloaded";
     EXPECT_FALSE(fremdes.isHidden()) << "those of the host are not";
-    EXPECT_EQ(Option_lesen(u"Marklink"_qs, u"ViewablePeriod"_qs), fall.Zu ? u"1"_qs : u"0"_qs) << fall.Fall;
   }
   Oeffnen();
   EXPECT_NEAR(Jg().columnWidth(3), 200, 1);
