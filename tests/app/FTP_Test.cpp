@@ -23,13 +23,10 @@ class FTP_Server {
  public:
   explicit FTP_Server(bool Tls) {
     QDir(Ordner()).mkpath(u"gesperrt"_qs);
-    const QString zertifikat = Wurzel_.filePath(u"z.pem"_qs);
-    if (Tls) Zertifikat_anlegen(zertifikat);
     Prozess_.setProcessChannelMode(QProcess::MergedChannels);
     // Debian's own interpreter: another one would not find Debian's packages.
-    Prozess_.start(u"/usr/bin/python3"_qs,
-                   QStringList{QStringLiteral(MARKLINK_TESTORDNER "/ftp_server.py"), Ordner()} +
-                       (Tls ? QStringList{zertifikat} : QStringList{}));
+    Prozess_.start(u"/usr/bin/python3"_qs, {QStringLiteral(MARKLINK_TESTORDNER "/ftp_server.py"), Ordner(),
+                                            Tls ? u"tls"_qs : u"offen"_qs});
     while (!Prozess_.canReadLine() && Prozess_.waitForReadyRead(20'000)) continue;
     const QByteArray erste = Prozess_.readLine();
     Port_ = erste.trimmed().toUShort();
@@ -54,16 +51,6 @@ class FTP_Server {
   }
 
  private:
-  /// Key and a certificate that nobody vouches for, in one file.
-  static void Zertifikat_anlegen(const QString &Datei) {
-    const QString oeffentlich = Datei + u".crt"_qs;
-    QProcess openssl;
-    openssl.start(u"openssl"_qs, Worte("req -x509 -newkey rsa:2048 -nodes -subj /CN=127.0.0.1 -keyout") +
-                                     QStringList{Datei, u"-out"_qs, oeffentlich});
-    ASSERT_TRUE(openssl.waitForFinished());
-    Datei_schreiben(Datei, Datei_lesen(Datei) + Datei_lesen(oeffentlich));
-  }
-
   QTemporaryDir Wurzel_;
   QProcess Prozess_;
   quint16 Port_ = 0;

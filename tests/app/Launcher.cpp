@@ -1,6 +1,8 @@
 // Runs the built launcher.
 #include "Launcher.h"
 
+#include <signal.h>
+
 #include <QProcess>
 #include <QProcessEnvironment>
 
@@ -44,6 +46,8 @@ std::unique_ptr<QProcess> Launcher::Anstossen(const QStringList &Argumente) cons
   for (qsizetype i = 0; i + 1 < Umgebung_.size(); i += 2) umgebung.insert(Umgebung_[i], Umgebung_[i + 1]);
   prozess->setProcessEnvironment(umgebung);
   prozess->setWorkingDirectory(Wurzel());
+  // Ctrl+C works also where the tests run in the background.
+  prozess->setChildProcessModifier([] { ::signal(SIGINT, SIG_DFL); });
   prozess->start(QStringLiteral(MARKLINK_PROGRAMM), Argumente);
   return prozess;
 }

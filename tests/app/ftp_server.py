@@ -1,15 +1,17 @@
-"""An FTP server on a loopback port: ftp_server.py FOLDER [CERTIFICATE]
+"""An FTP server on a loopback port: ftp_server.py FOLDER tls|offen
 
 Prints its port, then every command that it gets (the password left out). User "u" with password "geheim" may do
-everything but write below "gesperrt". With a certificate (key and certificate in one file) it offers explicit TLS.
+everything but write below "gesperrt". With "tls" it offers explicit TLS by a certificate
+that nobody vouches for.
 """
+import subprocess
 import sys
 
 from pyftpdlib.authorizers import DummyAuthorizer
 from pyftpdlib.handlers import FTPHandler, TLS_DTPHandler, TLS_FTPHandler
 from pyftpdlib.servers import FTPServer
 
-ordner, zertifikat = sys.argv[1], sys.argv[2] if len(sys.argv) > 2 else None
+ordner, tls = sys.argv[1], sys.argv[2] == "tls"
 
 
 def meldend(handler):
@@ -32,12 +34,14 @@ class Geduldig(TLS_DTPHandler):
 anmeldungen = DummyAuthorizer()
 anmeldungen.add_user("u", "geheim", ordner, perm="elradfmwMT")
 anmeldungen.override_perm("u", ordner + "/gesperrt", perm="elr", recursive=True)
-dienst = meldend(TLS_FTPHandler if zertifikat else FTPHandler)
+dienst = meldend(TLS_FTPHandler if tls else FTPHandler)
 dienst.authorizer = anmeldungen
 dienst.auth_failed_timeout = 0
 dienst.use_sendfile = False
-if zertifikat:
-    dienst.certfile = zertifikat
+if tls:
+    dienst.certfile = ordner + "/../z.pem"  # the key as well
+    subprocess.run(["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=127.0.0.1",
+                    "-keyout", dienst.certfile, "-out", dienst.certfile], check=True, capture_output=True)
     dienst.dtp_handler = Geduldig
 server = FTPServer(("127.0.0.1", 0), dienst)
 print(server.socket.getsockname()[1], flush=True)

@@ -1,7 +1,4 @@
-// The launcher's host components, and what the command line tells of shipping costs and open items.
-#include <QJsonObject>
-
-#include "Launcher.h"
+// The launcher's host components: bookings of payments and documents, direct debits.
 #include "Launcher_Komponenten.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
@@ -91,42 +88,6 @@ TEST_P(Komponenten_Test, Lastschrift_steht_in_der_Tabelle) {
   EXPECT_FALSE(Host_Komponente_aufrufen(fremd.get(), u"Buchung_speichern"_qs, werte).isValid());
   EXPECT_EQ(Zeilen("SELECT COUNT(*) FROM DTABookings"), u"2"_qs);
   EXPECT_EQ(Host_Komponente_erzeugen(u"fremd.common"_qs), nullptr);
-}
-
-TEST(Zahlungsbefehle_Test, Versandkosten_und_Posten) {
-  Launcher l;
-  l.Mandant_mit_Shop(0, 1);
-  const auto json = [&l](const QStringList &worte) { return l.Json(worte).object(); };
-  const QStringList post{u"versandkosten"_qs, u"Deutsche Post"_qs};
-  for (const QString &land : {u"DE"_qs, u"Deutschland"_qs}) {
-    const QJsonObject kosten = json(post + QStringList{land, u"5,01"_qs});
-    EXPECT_EQ(kosten[u"kosten"_qs].toDouble(), 5.8);
-    EXPECT_EQ(kosten[u"steuerschluessel"_qs].toString(), u"1"_qs);
-    EXPECT_EQ(kosten[u"land"_qs].toString(), land);
-    EXPECT_EQ(kosten[u"gewicht"_qs].toDouble(), 5.01);
-  }
-  const Ergebnis gefragt = l.Starten(QStringList{u"--antwort"_qs, u"Versandkosten=49,90"_qs} + post +
-                                     QStringList{u"DE"_qs, u"1200"_qs});
-  EXPECT_TRUE(gefragt.Ausgabe.contains(u"49,90 EUR"_qs));
-  EXPECT_TRUE(gefragt.Fehler.startsWith(u"[Versandkosten] Leider"_qs));
-  EXPECT_EQ(l.Starten(post + QStringList{u"DE"_qs, u"schwer"_qs}).Ausgang, 2);
-  EXPECT_EQ(l.Starten("versandkosten Kutsche DE 1").Ausgang, 1);
-
-  l.Sql(
-      "INSERT INTO Invoice(InvoiceNumber,TotalAmount,Date) "
-      "VALUES('R1',100,'2024-06-01 00:00:00'),('R2',80,'2024-06-01 00:00:00');"
-      "INSERT INTO OpenItems(OpenItemNumber,document,DocumentNumber,Amount,OverdueFines,"
-      "PaymentsReceived,OutstandingAmount,DuePayment) "
-      "VALUES('OP-1','Rechnung','R1',100,5,42,60.5,'2024-06-15 00:00:00')");
-  const QJsonObject posten = json({u"posten"_qs, u"R1"_qs});
-  EXPECT_EQ(posten[u"posten"_qs].toString(), u"OP-1"_qs);
-  EXPECT_EQ(posten[u"offen"_qs].toDouble(), 60.5);
-  EXPECT_EQ(posten[u"skonto"_qs].toDouble(), 2.5) << "what makes the figures add up";
-  EXPECT_EQ(posten[u"faellig"_qs].toString(), u"2024-06-15"_qs);
-  EXPECT_EQ(json({u"posten"_qs, u"R2"_qs})[u"offen"_qs].toDouble(), 80.0);
-  EXPECT_TRUE(json({u"posten"_qs, u"R2"_qs})[u"posten"_qs].isNull());
-  EXPECT_EQ(l.Starten("posten R9").Ausgang, 1);
-  EXPECT_EQ(l.Zeilen("SELECT COUNT(*) FROM OpenItems"), u"1"_qs);
 }
 
 }  // namespace
