@@ -75,7 +75,8 @@ class Versandexport_Test : public test::Mandant_Test {
       rs.AddNew();
       rs.SetValue(u"OrderID"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
       rs.SetValue(u"POOL_REFNR"_qs, u"%1"_qs.arg(i, 4, 10, QChar(u'0')));
-      rs.SetValue(Letztes, QString(300, u'x'));
+      rs.SetValue(u"POOL_HANDELSBEDINGUNGENDHL"_qs, QString(100, u'x'));
+      rs.SetValue(u"POOL_RECHNUNGSPOSITIONENDHL"_qs, QString(200, u'x'));
       rs.Update();
     }
     ASSERT_TRUE(rs.UpdateBatch());
