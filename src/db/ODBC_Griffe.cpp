@@ -67,7 +67,9 @@ Odbc_Meldung Meldung_lesen(SQLSMALLINT Art, SQLHANDLE Griff) {
     const bool abbruch = nummer == 20004 || nummer == 20006 || nummer == 20017 || nummer == 20020;
     meldung.Verloren |= klasse.startsWith(u"08") || abbruch;
     // Who waited in vain for a lock does not wait again for each further row.
-    meldung.Zurueckgerollt |= nummer == 1205 || nummer == 1222 || klasse.startsWith(u"HYT");
+    meldung.Gewartet |= klasse.startsWith(u"HYT");
+    meldung.Zurueckgerollt |= nummer == 1205 || nummer == 1222 || meldung.Gewartet;
+    meldung.Andere_Gestalt |= nummer == 207 || nummer == 208 || nummer == 213 || nummer == 4104;
   }
   meldung.Text =
       alle.isEmpty() ? QStringLiteral("no message from the driver") : alle.join(QStringLiteral(" / "));
@@ -114,11 +116,7 @@ Odbc_Griffe::~Odbc_Griffe() { Trennen(); }
 
 void Odbc_Griffe::Trennen() {
   if (Anweisung_) SQLFreeHandle(SQL_HANDLE_STMT, Anweisung_);
-  if (Angemeldet_) {
-    // With a transaction open the driver manager refuses to go.
-    SQLEndTran(SQL_HANDLE_DBC, Verbindung_, SQL_ROLLBACK);
-    SQLDisconnect(Verbindung_);
-  }
+  if (Angemeldet_) SQLDisconnect(Verbindung_);  // the server takes back what is open
   if (Verbindung_) SQLFreeHandle(SQL_HANDLE_DBC, Verbindung_);
   Anweisung_ = nullptr;
   Verbindung_ = nullptr;
@@ -134,13 +132,17 @@ bool Odbc_Griffe::Verbinden(const Verbindungsdaten &Daten, QString &Fehler) {
     return false;
   }
   SQLSetConnectAttr(Verbindung_, SQL_ATTR_LOGIN_TIMEOUT, Odbc_Zahl(Wartezeit_), 0);
-  SQLSetConnectAttr(Verbindung_, SQL_ATTR_CONNECTION_TIMEOUT, Odbc_Zahl(Wartezeit_), 0);
   const QString text = Odbc_Verbindungstext(Daten);
   Angemeldet_ = SQL_SUCCEEDED(SQLDriverConnectW(Verbindung_, nullptr, Odbc_Text(text), SQL_NTS, nullptr, 0,
                                                 nullptr, SQL_DRIVER_NOPROMPT));
   if (Angemeldet_ && SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_STMT, Verbindung_, &Anweisung_))) {
     SQLSetStmtAttr(Anweisung_, SQL_ATTR_QUERY_TIMEOUT, Odbc_Zahl(Wartezeit_), 0);
-    return true;
+    // A server can be set up otherwise: rows have to be counted, and a refused one must not end the batch.
+    Odbc_Meldung meldung;
+    if (Befehl("SET NOCOUNT OFF; SET XACT_ABORT OFF; SET IMPLICIT_TRANSACTIONS OFF", meldung)) return true;
+    Fehler = meldung.Text;
+    Trennen();
+    return false;
   }
   Fehler = Meldung_lesen(SQL_HANDLE_DBC, Verbindung_).Text;
   Anweisung_ = nullptr;
@@ -157,6 +159,27 @@ bool Odbc_Griffe::Tot() const {
   SQLUINTEGER tot = SQL_CD_TRUE;
   if (Angemeldet_) SQLGetConnectAttr(Verbindung_, SQL_ATTR_CONNECTION_DEAD, &tot, sizeof tot, nullptr);
   return tot == SQL_CD_TRUE;
+}
+
+bool Odbc_Griffe::Zu_Ende_fuehren(SQLLEN &Anzahl) {
+  SQLRETURN rc = SQL_SUCCESS;
+  while (SQL_SUCCEEDED(rc)) {
+    // Of several counts the last is the statement's own; those before it are its triggers'.
+    SQLLEN anzahl = -1;
+    if (SQL_SUCCEEDED(SQLRowCount(Anweisung_, &anzahl)) && anzahl >= 0) Anzahl = anzahl;
+    rc = SQLMoreResults(Anweisung_);
+  }
+  return rc == SQL_NO_DATA;
+}
+
+bool Odbc_Griffe::Befehl(const char *Sql, Odbc_Meldung &Meldung) {
+  const QString text = QLatin1String(Sql);
+  const SQLRETURN rc = SQLExecDirectW(Anweisung(), Odbc_Text(text), SQL_NTS);
+  SQLLEN anzahl = 0;
+  const bool gut = (SQL_SUCCEEDED(rc) || rc == SQL_NO_DATA) && Zu_Ende_fuehren(anzahl);
+  if (!gut) Meldung = Meldung_von_Anweisung();
+  Anweisung();
+  return gut;
 }
 
 Odbc_Meldung Odbc_Griffe::Meldung_von_Anweisung() const { return Meldung_lesen(SQL_HANDLE_STMT, Anweisung_); }

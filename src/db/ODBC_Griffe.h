@@ -16,6 +16,8 @@ struct Odbc_Meldung {
   QString Text;                 ///< all messages, the server's own among them; no value of a row
   bool Verloren = false;        ///< the connection is gone
   bool Zurueckgerollt = false;  ///< the transaction is lost, or not worth going on with
+  bool Gewartet = false;        ///< the time-out is over: another attempt would only wait again
+  bool Andere_Gestalt = false;  ///< a table or column is not there (any more)
 };
 
 class Odbc_Griffe {
@@ -33,6 +35,11 @@ class Odbc_Griffe {
   /// The same as it stands.
   SQLHSTMT Offene_Anweisung() const { return Anweisung_; }
   bool Tot() const;
+  /// Runs statements without values and without rows to their end, within the time-out.
+  bool Befehl(const char *Sql, Odbc_Meldung &Meldung);
+  /// Whether what is open ran well to the end of all its results. `Anzahl`: rows that the last statement
+  /// counted, or as it was where none counted.
+  bool Zu_Ende_fuehren(SQLLEN &Anzahl);
   Odbc_Meldung Meldung_von_Anweisung() const;
   Odbc_Meldung Meldung_von_Verbindung() const;
 

@@ -11,18 +11,24 @@ namespace marklink::db {
 namespace {
 
 constexpr qsizetype Vorrat_hoechstens = 512;
+constexpr qsizetype Merkbar = 20000;  ///< characters; a longer text is a list that does not come again
+constexpr std::size_t Werte_hoechstens = 2000;  ///< the server takes 2,100 parameters, some for itself
 
 bool gleich(const QString &A, const QString &B) { return A.compare(B, Qt::CaseInsensitive) == 0; }
 
 /// The text with a mark for each value. A number behind TOP stays in it: the server takes no parameter there.
+/// So do all values when there are more than it takes; none of them holds an apostrophe.
 QString Text_bilden(const Anweisung &Sql, std::vector<int> &Werte) {
+  using Art = decltype(Anweisung::Stueck::Art);
+  const bool zu_viele = Sql.Stuecke().size() > 2 * Werte_hoechstens;  // each stands behind a literal
   QString text;
   for (std::size_t i = 0; i < Sql.Stuecke().size(); ++i) {
     const auto &stueck = Sql.Stuecke()[i];
-    const bool hinter_TOP = text.trimmed().endsWith(QLatin1String(" TOP"), Qt::CaseInsensitive);
-    if (stueck.Art == Anweisung::Stueck::Art::Literal ||
-        (stueck.Art == Anweisung::Stueck::Art::Zahlwert && hinter_TOP)) {
+    const bool hinter_TOP = QStringView(text).trimmed().endsWith(u" TOP", Qt::CaseInsensitive);
+    if (stueck.Art == Art::Literal || (stueck.Art == Art::Zahlwert && (hinter_TOP || zu_viele))) {
       text += stueck.Text;
+    } else if (zu_viele) {
+      text += QStringLiteral("N'") + stueck.Text + u'\'';
     } else {
       text += u'?';
       Werte.push_back(static_cast<int>(i));
@@ -136,7 +142,7 @@ std::shared_ptr<Odbc_Plan> Odbc_Plaene::Planen(Odbc_Griffe &Griffe, const Anweis
   if (Plaene_.size() >= Vorrat_hoechstens) Plaene_.clear();
   const bool bekannt = std::all_of(neu->Tabellen.begin(), neu->Tabellen.end(),
                                    [](const auto &t) { return !t->Spalten.empty(); });
-  if (bekannt) Plaene_.insert(schluessel, neu);
+  if (bekannt && schluessel.size() <= Merkbar) Plaene_.insert(schluessel, neu);
   return neu;
 }
 

@@ -1,13 +1,11 @@
 // SQL Server: through ODBC's C interface and FreeTDS.
 //
 // Each statement goes out with its values apart in one round trip; the server keeps its plan by the text.
-// Once a connection has written a batch it keeps a transaction open: the end of one begins the next in the
-// same round trip, and one in which nothing was written holds nothing.
-#include <QElapsedTimer>
 #include <QHash>
 
-#include "Ablaufverfolgung.h"
 #include "ODBC_Plan.h"
+#include "ODBC_Server.h"
+#include "ODBC_Transaktion.h"
 #include "ODBC_Werte.h"
 #include "Treiber.h"
 
@@ -15,24 +13,18 @@ namespace marklink::db {
 
 namespace {
 
-constexpr qint64 Langsam_ms = 1000;  ///< a login that fails later than that was waited for
-constexpr qint64 Schonzeit_ms = 5000;
-
 class ODBC_Sitzung final : public Sitzung {
  public:
-  ODBC_Sitzung(Verbindungsdaten Daten, std::shared_ptr<Odbc_Katalog> Katalog)
-      : Daten_(std::move(Daten)), Plaene_(std::move(Katalog)) {}
+  ODBC_Sitzung(Verbindungsdaten Daten, std::shared_ptr<Odbc_Server> Server)
+      : Daten_(std::move(Daten)), Server_(std::move(Server)), Plaene_(Server_->Katalog()) {}
 
   bool Verbinden();
   bool Brauchbar() override { return !Verloren_ && !Griffe_.Tot(); }
   std::shared_ptr<const Spaltensatz> Beschreiben(const Anweisung &Sql) override;
   bool Lesen(const Anweisung &Sql, Ergebnis &Ziel) override;
   bool Beginnen() override;
-  bool Abschliessen() override { return Transaktion_beenden(SQL_COMMIT); }
-  void Verwerfen() override {
-    if (!Griffe_.Tot()) Transaktion_beenden(SQL_ROLLBACK);
-    In_Transaktion_ = false;
-  }
+  bool Abschliessen() override;
+  void Verwerfen() override;
   Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,
                          const std::vector<const Feld *> &Felder) override;
   qint64 Letzte_Nummer() override { return Letzte_Nummer_; }
@@ -41,48 +33,54 @@ class ODBC_Sitzung final : public Sitzung {
     const QByteArray genau = Spalte.Art == Feldart::Text ? " COLLATE Latin1_General_BIN2" : "";
     return "EXISTS (SELECT " + Spalte.Geklammert + genau + " INTERSECT SELECT ?)";
   }
-  QString Fehler() const override { return Fehler_; }
+  QString Fehler() const override { return Meldung_.Text; }
 
  private:
   enum class Ausgang { Gut, Gescheitert, Veraltet };
   Ausgang versuchen(const Anweisung &Sql, Ergebnis &Ziel, bool Zuletzt);
   bool Zeilen_holen(SQLHSTMT Stmt, Ergebnis &Ziel);
-  bool Zu_Ende_fuehren(SQLHSTMT Stmt);
   bool Ausfuehren(const QString &Sql, Odbc_Parameter &Werte);
-  bool Nummer_lesen();
-  void Scheitern_merken(const Odbc_Meldung &Meldung);
-  bool Transaktion_beenden(SQLSMALLINT Wie);
+  bool Einfuegen_beenden();
+  bool scheitern(const Odbc_Meldung &Meldung);
+  bool scheitern(const char *Grund);
   bool Transaktion_verloren();
 
   Verbindungsdaten Daten_;
+  std::shared_ptr<Odbc_Server> Server_;
   Odbc_Griffe Griffe_;
+  Odbc_Transaktion Transaktion_{Griffe_};
   Odbc_Plaene Plaene_;
-  bool Selbst_abschliessen_ = true;  ///< no transaction is open
-  bool In_Transaktion_ = false;      ///< between Beginnen() and its end
-  bool Unberuehrt_ = false;          ///< nothing was written in it yet
-  bool Verloren_ = false;
-  bool Zurueckgerollt_ = false;
+  bool In_Stapel_ = false;   ///< between Beginnen() and its end
+  bool Unberuehrt_ = false;  ///< nothing was written in it yet
+  bool Verloren_ = false;    ///< the connection is gone, or nobody knows what is open on it
+  Odbc_Meldung Meldung_;     ///< of what failed last
   qint64 Letzte_Nummer_ = 0;
-  QString Fehler_;
 };
 
 bool ODBC_Sitzung::Verbinden() {
-  Selbst_abschliessen_ = true;
-  Verloren_ = !Griffe_.Verbinden(Daten_, Fehler_);
+  Transaktion_.vergessen();
+  Meldung_ = {};
+  Verloren_ = !Server_->Anmelden(Griffe_, Daten_, Meldung_.Text);
   return !Verloren_;
 }
 
-void ODBC_Sitzung::Scheitern_merken(const Odbc_Meldung &Meldung) {
-  Fehler_ = Meldung.Text;
-  Verloren_ = Meldung.Verloren || Griffe_.Tot();
-  Zurueckgerollt_ = Meldung.Zurueckgerollt;
+/// Always false. Who has waited in vain lets the connection go: the server ends what is open on it.
+bool ODBC_Sitzung::scheitern(const Odbc_Meldung &Meldung) {
+  Meldung_ = Meldung;
+  Verloren_ = Meldung.Verloren || Meldung.Gewartet || Griffe_.Tot();
+  return false;
+}
+
+bool ODBC_Sitzung::scheitern(const char *Grund) {
+  Meldung_ = {QLatin1String(Grund)};
+  return false;
 }
 
 std::shared_ptr<const Spaltensatz> ODBC_Sitzung::Beschreiben(const Anweisung &Sql) {
   for (int versuch = 0;; ++versuch) {
     const auto plan = Plaene_.Planen(Griffe_, Sql);
     if (!plan) {
-      Fehler_ = QStringLiteral("not one statement of this dialect");
+      scheitern("not one statement of this dialect");
       return nullptr;
     }
     if (plan->Form.Ganze_Tabelle) {
@@ -92,7 +90,7 @@ std::shared_ptr<const Spaltensatz> ODBC_Sitzung::Beschreiben(const Anweisung &Sq
     Verloren_ = Griffe_.Tot();
     // A table that the catalogue does not tell of: reading it tells more, or why not.
     if (!Verloren_) return std::make_shared<Spaltensatz>();
-    Fehler_ = QStringLiteral("the connection is lost");
+    scheitern("the connection is lost");
     if (versuch > 0 || !Verbinden()) return nullptr;
   }
 }
@@ -101,9 +99,7 @@ bool ODBC_Sitzung::Ausfuehren(const QString &Sql, Odbc_Parameter &Werte) {
   const SQLHSTMT stmt = Griffe_.Anweisung();
   const bool gebunden = Werte.Binden(stmt);
   const SQLRETURN rc = gebunden ? SQLExecDirectW(stmt, Odbc_Text(Sql), SQL_NTS) : SQLRETURN(SQL_ERROR);
-  if (SQL_SUCCEEDED(rc) || rc == SQL_NO_DATA) return true;
-  Scheitern_merken(Griffe_.Meldung_von_Anweisung());
-  return false;
+  return SQL_SUCCEEDED(rc) || rc == SQL_NO_DATA || scheitern(Griffe_.Meldung_von_Anweisung());
 }
 
 bool ODBC_Sitzung::Zeilen_holen(SQLHSTMT Stmt, Ergebnis &Ziel) {
@@ -115,48 +111,47 @@ bool ODBC_Sitzung::Zeilen_holen(SQLHSTMT Stmt, Ergebnis &Ziel) {
     Zelle *zeile = Ziel.Lager.Zellen(spalten.Zellen());
     for (std::size_t i = 0; gut && i < spalten.Felder.size(); ++i)
       gut = Odbc_Zelle_holen(Stmt, static_cast<int>(i), spalten.Felder[i].Art, Ziel.Lager, zeile[i]);
-    if (!gut) {
-      Scheitern_merken(Griffe_.Meldung_von_Anweisung());
-      return false;
-    }
+    if (!gut) return scheitern(Griffe_.Meldung_von_Anweisung());
     if (spalten.Nummer_aus_Schluessel)
       zeile[spalten.Zeilennummer] = Zelle::aus_Ganz(Schluesselnummer(spalten, zeile));
     Ziel.Zeilen.push_back(zeile);
   }
 }
 
-/// A statement may fail behind its first result, too.
-bool ODBC_Sitzung::Zu_Ende_fuehren(SQLHSTMT Stmt) {
-  SQLRETURN rc = SQL_SUCCESS;
-  while (SQL_SUCCEEDED(rc)) rc = SQLMoreResults(Stmt);
-  if (rc == SQL_NO_DATA) return true;
-  Scheitern_merken(Griffe_.Meldung_von_Anweisung());
-  return false;
-}
-
+/// Veraltet: it may be tried again, on a new connection or knowing the tables as they are now.
 ODBC_Sitzung::Ausgang ODBC_Sitzung::versuchen(const Anweisung &Sql, Ergebnis &Ziel, bool Zuletzt) {
+  const auto gescheitert = [this] {
+    return Verloren_ && !Meldung_.Gewartet ? Ausgang::Veraltet : Ausgang::Gescheitert;
+  };
   const auto plan = Plaene_.Planen(Griffe_, Sql);
   if (!plan) {
-    Fehler_ = QStringLiteral("not one statement of this dialect");
+    scheitern("not one statement of this dialect");
     return Ausgang::Gescheitert;
+  }
+  // What changes rows has a transaction, too: until that ends nothing is written, and it may start again.
+  const bool allein = !plan->Liest && !In_Stapel_;
+  if (allein && !Transaktion_.Beginnen(Meldung_)) {
+    scheitern(Odbc_Meldung(Meldung_));
+    return gescheitert();
   }
   Odbc_Parameter werte;
   for (const int i : plan->Werte) werte.Anweisungswert(Sql.Stuecke()[static_cast<std::size_t>(i)]);
-  if (!Ausfuehren(plan->Sql, werte))
-    return plan->Liest && Verloren_ ? Ausgang::Veraltet : Ausgang::Gescheitert;
+  if (!Ausfuehren(plan->Sql, werte)) return gescheitert();
   const SQLHSTMT stmt = Griffe_.Offene_Anweisung();
   bool passt = true;
   Ziel.Spalten = Plaene_.Beschreiben(stmt, *plan, passt);
   if (!passt && !Zuletzt) return Ausgang::Veraltet;
-  const bool gut = Ziel.Spalten ? Zeilen_holen(stmt, Ziel) : Zu_Ende_fuehren(stmt);
-  if (!gut) return plan->Liest && Verloren_ ? Ausgang::Veraltet : Ausgang::Gescheitert;
-  const bool abzuschliessen = !plan->Liest && !Selbst_abschliessen_ && !In_Transaktion_;
-  return !abzuschliessen || Transaktion_beenden(SQL_COMMIT) ? Ausgang::Gut : Ausgang::Gescheitert;
+  SQLLEN anzahl = 0;
+  const bool gut = Ziel.Spalten
+                       ? Zeilen_holen(stmt, Ziel)
+                       : Griffe_.Zu_Ende_fuehren(anzahl) || scheitern(Griffe_.Meldung_von_Anweisung());
+  if (!gut) return gescheitert();
+  return !allein || Abschliessen() ? Ausgang::Gut : Ausgang::Gescheitert;
 }
 
 bool ODBC_Sitzung::Lesen(const Anweisung &Sql, Ergebnis &Ziel) {
-  Ausgang ausgang = versuchen(Sql, Ziel, In_Transaktion_);
-  if (ausgang == Ausgang::Veraltet && !In_Transaktion_) {
+  Ausgang ausgang = versuchen(Sql, Ziel, In_Stapel_);
+  if (ausgang == Ausgang::Veraltet && !In_Stapel_) {
     // Either the connection was cut while nobody used it, or a table has other columns than it had.
     Ziel.Zeilen.clear();
     const bool verbunden = !Verloren_ || Verbinden();
@@ -165,42 +160,47 @@ bool ODBC_Sitzung::Lesen(const Anweisung &Sql, Ergebnis &Ziel) {
   }
   if (ausgang != Ausgang::Gut) {
     Ziel.Zeilen.clear();
-    // Perhaps a table or column that is gone.
-    if (!Verloren_) Plaene_.vergessen();
+    if (Meldung_.Andere_Gestalt) Plaene_.vergessen();
+    // The server may have ended the transaction, or hold locks in it still; the next batch needs a sound one.
+    Odbc_Meldung dabei;
+    if (!In_Stapel_ && !Verloren_) Transaktion_.Zurueckrollen(dabei);
+    Verloren_ |= dabei.Verloren || dabei.Gewartet;
   }
   Griffe_.Anweisung();
   return ausgang == Ausgang::Gut;
 }
 
 bool ODBC_Sitzung::Beginnen() {
-  for (int versuch = 0; Selbst_abschliessen_; ++versuch) {
-    const SQLRETURN rc =
-        SQLSetConnectAttr(Griffe_.Verbindung(), SQL_ATTR_AUTOCOMMIT, Odbc_Zahl(SQL_AUTOCOMMIT_OFF), 0);
-    if (SQL_SUCCEEDED(rc)) {
-      Selbst_abschliessen_ = false;
-      break;
-    }
-    Scheitern_merken(Griffe_.Meldung_von_Verbindung());
-    if (!Verloren_ || versuch > 0 || !Verbinden()) return false;
+  for (int versuch = 0; !Transaktion_.Beginnen(Meldung_); ++versuch) {
+    scheitern(Odbc_Meldung(Meldung_));
+    if (!Verloren_ || Meldung_.Gewartet || versuch > 0 || !Verbinden()) return false;
   }
-  In_Transaktion_ = true;
+  In_Stapel_ = true;
   Unberuehrt_ = true;
   return true;
 }
 
-bool ODBC_Sitzung::Transaktion_beenden(SQLSMALLINT Wie) {
-  Griffe_.Anweisung();
-  In_Transaktion_ = false;
-  if (SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, Griffe_.Verbindung(), Wie))) return true;
-  Scheitern_merken(Griffe_.Meldung_von_Verbindung());
+bool ODBC_Sitzung::Abschliessen() {
+  In_Stapel_ = false;
+  Odbc_Meldung meldung;
+  if (Transaktion_.Abschliessen(meldung)) return true;
+  scheitern(meldung);
   Verloren_ = true;  // whether it has a transaction open nobody knows
   return false;
 }
 
+void ODBC_Sitzung::Verwerfen() {
+  In_Stapel_ = false;
+  if (Verloren_) return;
+  Odbc_Meldung meldung;
+  Transaktion_.Zurueckrollen(meldung);
+  Verloren_ = meldung.Verloren || meldung.Gewartet || Griffe_.Tot();
+}
+
 /// Whether a statement that failed took the whole transaction with it.
 bool ODBC_Sitzung::Transaktion_verloren() {
-  if (Verloren_ || Zurueckgerollt_) return true;
-  const QString fehler = Fehler_;
+  if (Verloren_ || Meldung_.Zurueckgerollt) return true;
+  const Odbc_Meldung grund = Meldung_;
   Odbc_Parameter keine;
   Zelle tiefe;
   Speicher lager;
@@ -208,28 +208,24 @@ bool ODBC_Sitzung::Transaktion_verloren() {
                        SQL_SUCCEEDED(SQLFetch(Griffe_.Offene_Anweisung())) &&
                        Odbc_Zelle_holen(Griffe_.Offene_Anweisung(), 0, Feldart::Ganzzahl, lager, tiefe);
   Griffe_.Anweisung();
-  Fehler_ = fehler;
+  Meldung_ = grund;
   return !gefragt || tiefe.Ganz == 0;
 }
 
-/// The number of the row just inserted; it comes as a second result.
-bool ODBC_Sitzung::Nummer_lesen() {
+/// Reads the number of the row just inserted, which comes as the last result with columns: a trigger may have
+/// results of its own.
+bool ODBC_Sitzung::Einfuegen_beenden() {
   const SQLHSTMT stmt = Griffe_.Offene_Anweisung();
-  SQLSMALLINT spalten = 0;
   SQLRETURN rc = SQL_SUCCESS;
-  while (SQL_SUCCEEDED(rc) && SQL_SUCCEEDED(SQLNumResultCols(stmt, &spalten)) && spalten == 0)
-    rc = SQLMoreResults(stmt);
-  Letzte_Nummer_ = 0;
-  Zelle nummer;
-  Speicher lager;
-  if (SQL_SUCCEEDED(rc) && spalten > 0 && SQL_SUCCEEDED(SQLFetch(stmt)) &&
-      Odbc_Zelle_holen(stmt, 0, Feldart::Ganzzahl, lager, nummer)) {
-    Letzte_Nummer_ = nummer.ist_Null() ? 0 : nummer.Ganz;
-    return true;
+  for (Letzte_Nummer_ = 0; SQL_SUCCEEDED(rc); rc = SQLMoreResults(stmt)) {
+    SQLSMALLINT spalten = 0;
+    Zelle nummer;
+    Speicher lager;
+    if (SQL_SUCCEEDED(SQLNumResultCols(stmt, &spalten)) && spalten > 0 && SQL_SUCCEEDED(SQLFetch(stmt)) &&
+        Odbc_Zelle_holen(stmt, 0, Feldart::Ganzzahl, lager, nummer))
+      Letzte_Nummer_ = nummer.ist_Null() ? 0 : nummer.Ganz;
   }
-  if (rc == SQL_NO_DATA) return true;
-  Scheitern_merken(Griffe_.Meldung_von_Anweisung());
-  return false;
+  return rc == SQL_NO_DATA || scheitern(Griffe_.Meldung_von_Anweisung());
 }
 
 Schreibstand ODBC_Sitzung::Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,
@@ -237,7 +233,7 @@ Schreibstand ODBC_Sitzung::Schreiben(const QByteArray &Sql, const std::vector<Ze
   Odbc_Parameter werte;
   for (std::size_t i = 0; i < Werte.size(); ++i) {
     if (werte.Zelle_anfuegen(Werte[i], Felder[i])) continue;
-    Fehler_ = QStringLiteral("a value is no date");
+    scheitern("a value is no date");
     return Schreibstand::Abgelehnt;
   }
   const bool einfuegen = Sql.startsWith("INSERT");
@@ -245,10 +241,13 @@ Schreibstand ODBC_Sitzung::Schreiben(const QByteArray &Sql, const std::vector<Ze
       QString::fromUtf8(Sql) + (einfuegen ? QStringLiteral("; SELECT SCOPE_IDENTITY()") : QString());
   bool gut = Ausfuehren(text, werte);
   // Nothing of this transaction can have reached the books: it may start again on another connection.
-  if (!gut && Verloren_ && Unberuehrt_ && Verbinden() && Beginnen()) gut = Ausfuehren(text, werte);
+  if (!gut && Verloren_ && !Meldung_.Gewartet && Unberuehrt_ && Verbinden() && Beginnen())
+    gut = Ausfuehren(text, werte);
   SQLLEN zeilen = 1;
-  if (gut && einfuegen) gut = Nummer_lesen();
-  if (gut && !einfuegen) gut = SQL_SUCCEEDED(SQLRowCount(Griffe_.Offene_Anweisung(), &zeilen));
+  if (gut) {
+    gut = einfuegen ? Einfuegen_beenden()
+                    : Griffe_.Zu_Ende_fuehren(zeilen) || scheitern(Griffe_.Meldung_von_Anweisung());
+  }
   Griffe_.Anweisung();
   if (gut) {
     Unberuehrt_ = false;
@@ -259,41 +258,18 @@ Schreibstand ODBC_Sitzung::Schreiben(const QByteArray &Sql, const std::vector<Ze
 
 class Treiber_ODBC final : public Treiber {
  public:
-  std::unique_ptr<Sitzung> Oeffnen(const Verbindungsdaten &Daten, QString &Fehler) override;
-
- private:
-  struct Server {
-    std::weak_ptr<Odbc_Katalog> Katalog;
-    QElapsedTimer Vergeblich;  ///< since a login was waited for in vain
-    QString Fehler;
-  };
-  QHash<QString, Server> Server_;
-};
-
-std::unique_ptr<Sitzung> Treiber_ODBC::Oeffnen(const Verbindungsdaten &Daten, QString &Fehler) {
-  Server &server = Server_[Odbc_Verbindungstext(Daten)];
-  // A routine opens many connections; a server that does not answer is waited for once.
-  if (server.Vergeblich.isValid() && !server.Vergeblich.hasExpired(Schonzeit_ms)) {
-    Fehler = server.Fehler;
+  std::unique_ptr<Sitzung> Oeffnen(const Verbindungsdaten &Daten, QString &Fehler) override {
+    auto &server = Server_[Odbc_Verbindungstext(Daten)];
+    if (!server) server = std::make_shared<Odbc_Server>();
+    auto sitzung = std::make_unique<ODBC_Sitzung>(Daten, server);
+    if (sitzung->Verbinden()) return sitzung;
+    Fehler = sitzung->Fehler();
     return nullptr;
   }
-  server.Vergeblich.invalidate();
-  auto katalog = server.Katalog.lock();
-  if (!katalog) {
-    katalog = std::make_shared<Odbc_Katalog>();
-    server.Katalog = katalog;
-  }
-  auto sitzung = std::make_unique<ODBC_Sitzung>(Daten, katalog);
-  QElapsedTimer uhr;
-  uhr.start();
-  if (sitzung->Verbinden()) return sitzung;
-  Fehler = sitzung->Fehler();
-  if (uhr.elapsed() >= Langsam_ms) {
-    server.Vergeblich.start();
-    server.Fehler = Fehler;
-  }
-  return nullptr;
-}
+
+ private:
+  QHash<QString, std::shared_ptr<Odbc_Server>> Server_;
+};
 
 }  // namespace
 

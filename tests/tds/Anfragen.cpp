@@ -25,6 +25,8 @@ struct Parameter {
 
 using Parameterliste = std::vector<Parameter>;
 
+constexpr std::size_t Werte_hoechstens = 2100;
+
 /// The procedures that have a number; others are called by name.
 enum Prozedurnummer {
   Ohne_Nummer = 0,
@@ -177,6 +179,10 @@ void Sitzung::Rufe(Leser &L) {
       return;
     }
     if (!L.Ende()) L.Ganz(1);
+    if (werte.size() > Werte_hoechstens) {
+      Scheitern(Fehler_bilden(8003), Ort::Stapel);
+      return;
+    }
     Protokollieren(QStringLiteral("CALL %1%2").arg(name).arg(nummer), werte);
     Prozedur(nummer, name.section(u'.', -1), werte);
   }
@@ -268,6 +274,7 @@ void Bedienen(Leitung &L, const QByteArray &Datei, const QString &Katalog) {
       antwort.Abbruch_bestaetigen();
     } else {
       if (faellig(s.Trennen)) return;
+      if (faellig(s.Verstummen)) s.Langsam = 60000;
       ++s.Anfragen;
       // Who speaks up while it waits has given up waiting: the confirmation of that is all the reply there
       // is.

@@ -164,6 +164,8 @@ Meldung Fehler_bilden(int Nummer, const QString &Was) {
       {2812, 16, "Could not find stored procedure '%1'."},
       {3902, 16, "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION."},
       {3903, 16, "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION."},
+      {8003, 16,
+       "The incoming request has too many parameters. The server supports a maximum of 2100 parameters."},
       {8114, 16, "Error converting data type nvarchar to numeric."},
       {8115, 16, "Arithmetic overflow error converting expression to data type int."},
       {8152, 16, "String or binary data would be truncated."},

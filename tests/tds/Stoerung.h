@@ -14,6 +14,7 @@ struct Stoerung {
   std::atomic<int> Anmeldungen;  ///< "anmeldungen": logins that were granted
   std::atomic<int> Ablehnen;     ///< "ablehnen": 1 refuses every login, 2 hangs up on it, 3 never answers
   std::atomic<int> Langsam;      ///< "langsam": milliseconds before each request is served
+  std::atomic<int> Verstummen;   ///< "verstummen": "langsam" becomes a minute at the n-th request
   std::atomic<int> Trennen;      ///< "trennen": hangs up instead of serving the n-th request
   std::atomic<int>
       Trennen_danach;  ///< "trennen-danach": serves the n-th request and hangs up without a reply
