@@ -1,14 +1,13 @@
 // Observation of statements and injected failures.
 #include "Beobachtung.h"
 
-#include "Verbindung.h"
-
 namespace marklink::db {
 
 namespace {
 
 struct Stand {
   std::function<void(const QString &)> Beobachter;
+  db::Mitschreiber Mitschreiber = nullptr;
   int Scheitern_bei = 0;
   int Aufrufe = 0;
 };
@@ -35,6 +34,12 @@ void Beobachtet(const QString &Text) {
 
 void Beobachter_setzen(std::function<void(const QString &Text)> Beobachter) {
   stand().Beobachter = std::move(Beobachter);
+}
+
+void Mitschreiber_setzen(Mitschreiber M) { stand().Mitschreiber = M; }
+
+void Mitschreiben(Dialekt D, const Anweisung &Sql) {
+  if (stand().Mitschreiber && Sql.Gueltig()) stand().Mitschreiber(D, Sql);
 }
 
 void Fehler_einspeisen(int n) {

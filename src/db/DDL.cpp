@@ -103,7 +103,9 @@ std::vector<QString> DDL_bilden(const Tabelle &T) {
 
 bool Datenbank_anlegen_mit(const std::vector<Tabelle> &Tabellen, const QString &Verbindung) {
   const Verbindungsdaten daten = Verbindung_lesen(Verbindung);
-  if (Treiber_waehlen(daten.Anbieter) == &ODBC_Treiber()) return Tabellen_anlegen_SqlServer(Tabellen, daten);
+  if (Treiber_waehlen(daten.Anbieter) == &ODBC_Treiber()) {
+    return Tabellen_anlegen_SqlServer(Tabellen, daten).Wie == Serverausgang::Stand::Gut;
+  }
   const QString datei = SQLite_Datei(daten);
   if (Treiber_waehlen(daten.Anbieter) != &SQLite_Treiber() || datei.isEmpty()) return false;
   QFile neu(datei);

@@ -1,10 +1,8 @@
-// From the description of the tables to those of a catalogue on SQL Server.
+// From the description of a table to SQL Server's statements for it.
 #include <QStringList>
 
-#include "Ablaufverfolgung.h"
 #include "DDL.h"
 #include "DDL_Teile.h"
-#include "Treiber.h"
 
 namespace marklink::db {
 
@@ -36,6 +34,16 @@ QString Typ(const Spalte &S) {
 
 }  // namespace
 
+std::vector<Tabelle> Servertabellen() {
+  std::vector<Tabelle> alle = Schema();
+  for (Tabelle &tabelle : alle) {
+    if (!tabelle.Schluessel.empty()) continue;
+    tabelle.Spalten.push_back({"RowNumber", Spaltentyp::Autowert});
+    tabelle.Schluessel = {"RowNumber"};
+  }
+  return alle;
+}
+
 std::vector<QString> DDL_bilden_SqlServer(const Tabelle &T) {
   QStringList spalten;
   for (const Spalte &s : T.Spalten) {
@@ -49,27 +57,6 @@ std::vector<QString> DDL_bilden_SqlServer(const Tabelle &T) {
                        .arg(QString::fromUtf8(T.Name), Namensliste(T.Schluessel)));
   }
   return Tabelle_und_Indizes(T, spalten);
-}
-
-bool Tabellen_anlegen_SqlServer(const std::vector<Tabelle> &Tabellen, const Verbindungsdaten &Daten) {
-  QString fehler;
-  const auto sitzung = ODBC_Treiber().Oeffnen(Daten, fehler);
-  const auto melden = [](const QString &Grund) {
-    Ablauf_melden(QStringLiteral("create"), Grund);
-    return false;
-  };
-  if (!sitzung) return melden(fehler);
-  if (!sitzung->Beginnen()) return melden(sitzung->Fehler());
-  for (const Tabelle &tabelle : Tabellen) {
-    for (const QString &sql : DDL_bilden_SqlServer(tabelle)) {
-      Ergebnis keines;
-      if (sitzung->Lesen(Anweisung(Teiltext{sql}, ""), keines)) continue;
-      melden(sitzung->Fehler() + QStringLiteral(": ") + sql);
-      sitzung->Verwerfen();
-      return false;
-    }
-  }
-  return sitzung->Abschliessen() || melden(sitzung->Fehler());
 }
 
 }  // namespace marklink::db

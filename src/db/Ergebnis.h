@@ -21,6 +21,15 @@ struct Feld {
   int Tabelle = -1;       ///< index into Spaltensatz::Tabellen, -1 for a computed column
   QString Ursprung;       ///< the column's name in that table
   QByteArray Geklammert;  ///< the same for a statement, [name]
+
+  bool Vorgabe = true;  ///< the engine may put a value where a new row has none
+
+  // Of a column on a server.
+  int Laenge = 0;           ///< characters that a text may have; 0: as many as it likes
+  int Ab_Jahr = 0;          ///< no date before it
+  QByteArray Unveraendert;  ///< a condition with one "?": the column still holds the value that was read
+  bool Genau = true;        ///< keeps what it is sent: nothing is rounded, cut or filled up
+  bool Bestaendig = true;   ///< an old value tells something: only statements change the column
 };
 
 struct Basistabelle {

@@ -248,8 +248,11 @@ double Feldzahl_lesen(const Zelle &Z, Feldart Art) {
 std::optional<Zelle> Zelle_bilden(const QVariant &Wert, const Feld &Spalte, Dialekt D, Speicher &Lager) {
   if (!Wert.isValid() || Wert.isNull()) return Spalte.Art == Feldart::Ja_Nein ? Zelle::aus_Ganz(0) : Zelle();
   switch (Spalte.Art) {
-    case Feldart::Text:
-      return Textzelle(Text_aus(Wert), Lager);
+    case Feldart::Text: {
+      const QString text = Text_aus(Wert);
+      if (Spalte.Laenge > 0 && text.size() > Spalte.Laenge) return std::nullopt;
+      return Textzelle(text, Lager);
+    }
     case Feldart::Ganzzahl:
       return Ganzzahlzelle(Wert, Spalte.Bits);
     case Feldart::Gleitkomma: {
@@ -263,7 +266,8 @@ std::optional<Zelle> Zelle_bilden(const QVariant &Wert, const Feld &Spalte, Dial
     }
     case Feldart::Datum: {
       const QString datum = Datum_aus(Wert);
-      return datum.isEmpty() ? std::nullopt : std::optional(Textzelle(datum, Lager));
+      if (datum.isEmpty() || datum.section(u'-', 0, 0).toInt() < Spalte.Ab_Jahr) return std::nullopt;
+      return Textzelle(datum, Lager);
     }
     case Feldart::Binaer: {
       if (Wert.typeId() != QMetaType::QByteArray) return std::nullopt;

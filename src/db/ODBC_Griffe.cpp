@@ -42,13 +42,32 @@ QString Treiber_finden() {
   return QStringLiteral("{FreeTDS}");  // the driver manager tells that it is not there
 }
 
-/// Some messages repeat a value, which may be a card or account number.
-QString ohne_Werte(QString Text) {
-  static const QRegularExpression stellen[] = {QRegularExpression(QStringLiteral("(Truncated value: ?)'.*'")),
-                                               QRegularExpression(QStringLiteral("(value )'.*'( to )")),
-                                               QRegularExpression(QStringLiteral("(key value is )\\(.*\\)"))};
-  for (const QRegularExpression &stelle : stellen) Text.replace(stelle, QStringLiteral("\\1(...)"));
-  return Text;
+/// Some messages repeat a value, which may be a card or account number. They are known by their number: the
+/// wording is of the login's language.
+QString ohne_Werte(QString Text, int Nummer) {
+  const auto alles = QRegularExpression::DotMatchesEverythingOption;
+  static const QRegularExpression klammern(QStringLiteral("\\(.*\\)"), alles),
+      anfuehrung(QStringLiteral("'.*'"), alles),
+      dritte_Anfuehrung(QStringLiteral("^((?:[^']*'[^']*'){2}[^']*)'.*"), alles);
+  switch (Nummer) {
+    case 2601:  // a key that is there already, behind the names of constraint and table
+    case 2627:
+      return Text.replace(klammern, QStringLiteral("(...)"));
+    case 2628:  // too long, behind the names of table and column
+      return Text.replace(dritte_Anfuehrung, QStringLiteral("\\1'...'"));
+    case 220:  // not to be converted, or out of the column's range
+    case 235:
+    case 241:
+    case 242:
+    case 244:
+    case 245:
+    case 248:
+    case 8114:
+    case 8115:
+      return Text.replace(anfuehrung, QStringLiteral("'...'"));
+    default:
+      return Text;
+  }
 }
 
 Odbc_Meldung Meldung_lesen(SQLSMALLINT Art, SQLHANDLE Griff) {
@@ -62,7 +81,7 @@ Odbc_Meldung Meldung_lesen(SQLSMALLINT Art, SQLHANDLE Griff) {
     if (!SQL_SUCCEEDED(rc)) break;
     const QString klasse = QString::fromUtf16(reinterpret_cast<const char16_t *>(zustand), 5);
     const QString wortlaut = QString::fromUtf16(reinterpret_cast<const char16_t *>(text));
-    alle.append(QStringLiteral("%1 %2 %3").arg(klasse).arg(nummer).arg(ohne_Werte(wortlaut)));
+    alle.append(QStringLiteral("%1 %2 %3").arg(klasse).arg(nummer).arg(ohne_Werte(wortlaut, nummer)));
     // The client library's own numbers for a connection that broke: read, write, unexpected end, bad reply.
     const bool abbruch = nummer == 20004 || nummer == 20006 || nummer == 20017 || nummer == 20020;
     meldung.Verloren |= klasse.startsWith(u"08") || abbruch;
@@ -84,32 +103,54 @@ SQLWCHAR *Odbc_Text(const QString &Text) {
 
 SQLPOINTER Odbc_Zahl(qint64 Wert) { return reinterpret_cast<SQLPOINTER>(static_cast<std::intptr_t>(Wert)); }
 
-QString Odbc_Verbindungstext(const Verbindungsdaten &Daten) {
-  // "tcp:server,port", "server\instance", "(local)"
-  QString server = Daten.Quelle;
-  QString anschluss;
-  if (server.startsWith(QLatin1String("tcp:"), Qt::CaseInsensitive)) server = server.mid(4);
-  const qsizetype komma = server.lastIndexOf(u',');
+namespace {
+
+struct Ort {
+  QString Server, Anschluss;
+};
+
+/// "tcp:server,port", "server\\instance", "(local)"
+Ort Ort_lesen(const QString &Quelle) {
+  Ort ort{Quelle, {}};
+  if (ort.Server.startsWith(QLatin1String("tcp:"), Qt::CaseInsensitive)) ort.Server = ort.Server.mid(4);
+  const qsizetype komma = ort.Server.lastIndexOf(u',');
   if (komma >= 0) {
-    anschluss = server.mid(komma + 1).trimmed();
-    server = server.left(komma).trimmed();
-  } else if (!server.contains(u'\\')) {
-    anschluss = QStringLiteral("1433");
+    ort.Anschluss = ort.Server.mid(komma + 1).trimmed();
+    ort.Server = ort.Server.left(komma).trimmed();
+  } else if (!ort.Server.contains(u'\\')) {
+    ort.Anschluss = QStringLiteral("1433");
   }
   for (const char *hier : {"(local)", ".", "localhost"}) {
     const QString name = QLatin1String(hier);
-    if (server.compare(name, Qt::CaseInsensitive) == 0) server = QStringLiteral("127.0.0.1");
-    if (server.startsWith(name + u'\\', Qt::CaseInsensitive))
-      server = QStringLiteral("127.0.0.1") + server.mid(name.size());
+    if (ort.Server.compare(name, Qt::CaseInsensitive) == 0) ort.Server = QStringLiteral("127.0.0.1");
+    if (ort.Server.startsWith(name + u'\\', Qt::CaseInsensitive))
+      ort.Server = QStringLiteral("127.0.0.1") + ort.Server.mid(name.size());
   }
-  QString text = QStringLiteral("DRIVER=") + Treiber_finden() + QStringLiteral(";SERVER=") + server;
-  if (!anschluss.isEmpty()) text += QStringLiteral(";PORT=") + anschluss;
-  if (Daten.Benutzer.isEmpty()) {
-    text += QStringLiteral(";Trusted_Connection=Yes");
-  } else {
-    text += QStringLiteral(";UID=") + Daten.Benutzer + QStringLiteral(";PWD=") + Daten.Passwort;
+  return ort;
+}
+
+}  // namespace
+
+QString Odbc_Verbindungstext(const Verbindungsdaten &Daten) {
+  const Ort ort = Ort_lesen(Daten.Quelle);
+  QList<std::pair<const char *, QString>> werte{{"SERVER", ort.Server}};
+  if (!ort.Anschluss.isEmpty()) werte.append({"PORT", ort.Anschluss});
+  if (!Daten.Benutzer.isEmpty()) werte.append({{"UID", Daten.Benutzer}, {"PWD", Daten.Passwort}});
+  werte.append({"DATABASE", Daten.Katalog});
+  QString text = QStringLiteral("DRIVER=") + Treiber_finden() + u';';
+  for (const auto &[name, wert] : werte) {
+    // In braces anything may stand; FreeTDS takes a closing one for the end only before ";", and none
+    // doubled.
+    if (wert.contains(QLatin1String("};")) || wert.contains(QChar(0))) return {};
+    text += QLatin1String(name) + QStringLiteral("={") + wert + QStringLiteral("};");
   }
-  return text + QStringLiteral(";DATABASE=") + Daten.Katalog + QStringLiteral(";TDS_Version=7.4;");
+  if (Daten.Benutzer.isEmpty()) text += QStringLiteral("Trusted_Connection=Yes;");
+  // "Timeout" is for what no statement has: a server that does not even answer the giving up of one.
+  return text + QStringLiteral("TDS_Version=7.4;Timeout=%1;").arg(Odbc_Wartezeit(Daten));
+}
+
+int Odbc_Wartezeit(const Verbindungsdaten &Daten) {
+  return Daten.Wartezeit > 0 ? Daten.Wartezeit : Uebliche_Wartezeit;
 }
 
 Odbc_Griffe::~Odbc_Griffe() { Trennen(); }
@@ -125,18 +166,22 @@ void Odbc_Griffe::Trennen() {
 
 bool Odbc_Griffe::Verbinden(const Verbindungsdaten &Daten, QString &Fehler) {
   Trennen();
-  Wartezeit_ = Daten.Wartezeit > 0 ? Daten.Wartezeit : Uebliche_Wartezeit;
+  const QString text = Odbc_Verbindungstext(Daten);
+  if (text.isEmpty()) {
+    Fehler = QStringLiteral("the driver cannot be told a value that holds \"};\"");
+    return false;
+  }
   if (!SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_DBC, Umgebung(), &Verbindung_))) {
     Fehler = QStringLiteral("no driver manager");
     Verbindung_ = nullptr;
     return false;
   }
-  SQLSetConnectAttr(Verbindung_, SQL_ATTR_LOGIN_TIMEOUT, Odbc_Zahl(Wartezeit_), 0);
-  const QString text = Odbc_Verbindungstext(Daten);
+  const SQLPOINTER wartezeit = Odbc_Zahl(Odbc_Wartezeit(Daten));
+  SQLSetConnectAttr(Verbindung_, SQL_ATTR_LOGIN_TIMEOUT, wartezeit, 0);
   Angemeldet_ = SQL_SUCCEEDED(SQLDriverConnectW(Verbindung_, nullptr, Odbc_Text(text), SQL_NTS, nullptr, 0,
                                                 nullptr, SQL_DRIVER_NOPROMPT));
   if (Angemeldet_ && SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_STMT, Verbindung_, &Anweisung_))) {
-    SQLSetStmtAttr(Anweisung_, SQL_ATTR_QUERY_TIMEOUT, Odbc_Zahl(Wartezeit_), 0);
+    SQLSetStmtAttr(Anweisung_, SQL_ATTR_QUERY_TIMEOUT, wartezeit, 0);
     // A server can be set up otherwise: rows have to be counted, and a refused one must not end the batch.
     Odbc_Meldung meldung;
     if (Befehl("SET NOCOUNT OFF; SET XACT_ABORT OFF; SET IMPLICIT_TRANSACTIONS OFF", meldung)) return true;

@@ -49,13 +49,15 @@ class Odbc_Griffe {
   SQLHDBC Verbindung_ = nullptr;
   SQLHSTMT Anweisung_ = nullptr;
   bool Angemeldet_ = false;
-  int Wartezeit_ = 30;
 };
 
 SQLWCHAR *Odbc_Text(const QString &Text);
 SQLPOINTER Odbc_Zahl(qint64 Wert);
 
-/// The connection text for FreeTDS.
+/// The connection text for FreeTDS; empty when a value cannot be told in it.
 QString Odbc_Verbindungstext(const Verbindungsdaten &Daten);
+
+/// How long to wait for anything, in seconds; never for ever.
+int Odbc_Wartezeit(const Verbindungsdaten &Daten);
 
 }  // namespace marklink::db

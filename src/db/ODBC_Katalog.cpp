@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "ODBC_Typen.h"
 #include "ODBC_Werte.h"
 
 namespace marklink::db {
@@ -18,64 +19,88 @@ QString Text_holen(SQLHSTMT Stmt, int Spalte) {
   return zelle.ist_Null() ? QString() : QString::fromUtf8(zelle.Daten, static_cast<qsizetype>(zelle.Laenge));
 }
 
-void Spalten_lesen(SQLHSTMT Stmt, const QString &Name, Odbc_Tabelle &Ziel) {
-  const SQLRETURN rc = SQLColumnsW(Stmt, nullptr, 0, nullptr, 0, Odbc_Text(Name), SQL_NTS, nullptr, 0);
-  while (SQL_SUCCEEDED(rc) && SQL_SUCCEEDED(SQLFetch(Stmt))) {
-    // "_" in the name stands for any character there.
-    if (!gleich(Text_holen(Stmt, 3), Name)) continue;
-    Odbc_Tabelle::Spalte spalte;
-    spalte.Name = Text_holen(Stmt, 4);
-    const QString typ = Text_holen(Stmt, 5);
-    spalte.Autowert = Text_holen(Stmt, 6).contains(QLatin1String("identity"), Qt::CaseInsensitive);
-    spalte.Art = Feldart_aus_Odbc(typ.toShort(), spalte.Bits);
-    Ziel.Spalten.push_back(spalte);
-  }
+/// Every row of what a catalogue function gave; false when it failed, perhaps in the middle.
+template <typename Tat>
+bool Jede_Zeile(SQLHSTMT Stmt, SQLRETURN Rc, Tat Tun) {
+  while (SQL_SUCCEEDED(Rc) && SQL_SUCCEEDED(Rc = SQLFetch(Stmt))) Tun();
+  return Rc == SQL_NO_DATA;
 }
 
-void Schluessel_lesen(SQLHSTMT Stmt, const QString &Name, Odbc_Tabelle &Ziel) {
+bool Spalten_lesen(SQLHSTMT Stmt, const QString &Name, Odbc_Tabelle &Ziel) {
+  QString schema;  // the statement's own table is that of one schema only: dbo, else the first
+  const SQLRETURN rc = SQLColumnsW(Stmt, nullptr, 0, nullptr, 0, Odbc_Text(Name), SQL_NTS, nullptr, 0);
+  return Jede_Zeile(Stmt, rc, [&] {
+    const QString dieses = Text_holen(Stmt, 2);
+    // "_" in the name stands for any character there.
+    if (!gleich(Text_holen(Stmt, 3), Name)) return;
+    if (!Ziel.Spalten.empty() && dieses != schema) {
+      if (!gleich(dieses, QStringLiteral("dbo"))) return;
+      Ziel.Spalten.clear();
+    }
+    schema = dieses;
+    const Odbc_Spalte spalte{Text_holen(Stmt, 4),         Text_holen(Stmt, 5).toShort(),
+                             Text_holen(Stmt, 6),         Text_holen(Stmt, 7).toInt(),
+                             Text_holen(Stmt, 9).toInt(), Text_holen(Stmt, 13)};
+    Ziel.Spalten.push_back(Feld_aus_Katalog(spalte));
+    Ziel.Spalten.back().Tabelle = 0;
+  });
+}
+
+bool Schluessel_lesen(SQLHSTMT Stmt, const QString &Name, Odbc_Tabelle &Ziel) {
   std::vector<std::pair<int, QString>> teile;
   const SQLRETURN rc = SQLPrimaryKeysW(Stmt, nullptr, 0, nullptr, 0, Odbc_Text(Name), SQL_NTS);
-  while (SQL_SUCCEEDED(rc) && SQL_SUCCEEDED(SQLFetch(Stmt))) {
+  const bool gut = Jede_Zeile(Stmt, rc, [&] {
     const QString spalte = Text_holen(Stmt, 4);
     teile.emplace_back(Text_holen(Stmt, 5).toInt(), spalte);
-  }
+  });
   std::sort(teile.begin(), teile.end());
   for (const auto &teil : teile) Ziel.Schluessel.append(teil.second);
+  return gut;
 }
 
-void Eindeutiges_lesen(SQLHSTMT Stmt, const QString &Name, Odbc_Tabelle &Ziel) {
+bool Eindeutiges_lesen(SQLHSTMT Stmt, const QString &Name, Odbc_Tabelle &Ziel) {
   const SQLRETURN rc = SQLSpecialColumnsW(Stmt, SQL_BEST_ROWID, nullptr, 0, nullptr, 0, Odbc_Text(Name),
                                           SQL_NTS, SQL_SCOPE_CURROW, SQL_NO_NULLS);
-  while (SQL_SUCCEEDED(rc) && SQL_SUCCEEDED(SQLFetch(Stmt))) Ziel.Schluessel.append(Text_holen(Stmt, 2));
+  return Jede_Zeile(Stmt, rc, [&] { Ziel.Schluessel.append(Text_holen(Stmt, 2)); });
 }
 
-void Indizes_lesen(SQLHSTMT Stmt, const QString &Name, Odbc_Tabelle &Ziel) {
+bool Indizes_lesen(SQLHSTMT Stmt, const QString &Name, Odbc_Tabelle &Ziel) {
   const SQLRETURN rc =
       SQLStatisticsW(Stmt, nullptr, 0, nullptr, 0, Odbc_Text(Name), SQL_NTS, SQL_INDEX_ALL, SQL_QUICK);
-  while (SQL_SUCCEEDED(rc) && SQL_SUCCEEDED(SQLFetch(Stmt))) {
+  const bool gut = Jede_Zeile(Stmt, rc, [&] {
     const int stelle = Text_holen(Stmt, 8).toInt();
     const QString spalte = Text_holen(Stmt, 9);
     if (stelle == 1 && !spalte.isEmpty()) Ziel.Indexanfaenge.append(spalte);
-  }
+  });
   if (!Ziel.Schluessel.isEmpty()) Ziel.Indexanfaenge.append(Ziel.Schluessel.first());
+  return gut;
 }
 
 }  // namespace
 
-const Odbc_Tabelle::Spalte *Odbc_Tabelle::finden(const QString &Name) const {
+const Feld *Odbc_Tabelle::finden(const QString &Name) const {
   const auto da =
-      std::find_if(Spalten.begin(), Spalten.end(), [&](const Spalte &s) { return gleich(s.Name, Name); });
+      std::find_if(Spalten.begin(), Spalten.end(), [&](const Feld &f) { return gleich(f.Name, Name); });
   return da == Spalten.end() ? nullptr : &*da;
 }
 
-std::shared_ptr<const Odbc_Tabelle> Odbc_Katalog::Tabelle(Odbc_Griffe &Griffe, const QString &Name) {
+std::shared_ptr<const Odbc_Tabelle> Odbc_Katalog::Tabelle(Odbc_Griffe &Griffe, const QString &Name,
+                                                          Odbc_Meldung &Meldung) {
   const auto da = Tabellen_.constFind(Name.toLower());
   if (da != Tabellen_.constEnd()) return *da;
   auto neu = std::make_shared<Odbc_Tabelle>();
-  Spalten_lesen(Griffe.Anweisung(), Name, *neu);
-  if (neu->Spalten.empty()) return neu;  // perhaps it comes
-  Schluessel_lesen(Griffe.Anweisung(), Name, *neu);
-  if (neu->Schluessel.isEmpty()) Eindeutiges_lesen(Griffe.Anweisung(), Name, *neu);
+  bool ganz = true, weiter = true;
+  const auto schritt = [&](auto Lesen) {
+    if (!weiter || Lesen(Griffe.Anweisung(), Name, *neu)) return;
+    ganz = false;
+    const Odbc_Meldung meldung = Griffe.Meldung_von_Anweisung();
+    weiter = !meldung.Verloren && !meldung.Zurueckgerollt && !Griffe.Tot();
+    if (!weiter) Meldung = meldung;
+  };
+  schritt(Spalten_lesen);
+  if (weiter && neu->Spalten.empty()) return neu;  // perhaps it comes
+  schritt(Schluessel_lesen);
+  if (neu->Schluessel.isEmpty()) schritt(Eindeutiges_lesen);
   // A key of which the table knows nothing is none.
   for (const QString &spalte : std::as_const(neu->Schluessel)) {
     if (!neu->finden(spalte)) {
@@ -83,8 +108,10 @@ std::shared_ptr<const Odbc_Tabelle> Odbc_Katalog::Tabelle(Odbc_Griffe &Griffe, c
       break;
     }
   }
-  Indizes_lesen(Griffe.Anweisung(), Name, *neu);
-  if (!Griffe.Tot()) Tabellen_.insert(Name.toLower(), neu);
+  schritt(Indizes_lesen);
+  if (!weiter) return nullptr;
+  neu->Vollstaendig = ganz;
+  if (ganz) Tabellen_.insert(Name.toLower(), neu);
   return neu;
 }
 
@@ -108,16 +135,7 @@ std::shared_ptr<const Spaltensatz> Odbc_Tabelle_beschreiben(const Odbc_Tabelle &
                                                             const QString &Name) {
   if (Tabelle.Spalten.empty()) return nullptr;
   auto satz = std::make_shared<Spaltensatz>();
-  for (const auto &spalte : Tabelle.Spalten) {
-    Feld feld;
-    feld.Name = feld.Ursprung = spalte.Name;
-    feld.Geklammert = '[' + spalte.Name.toUtf8() + ']';
-    feld.Art = spalte.Art;
-    feld.Bits = spalte.Bits;
-    feld.Autowert = spalte.Autowert;
-    feld.Tabelle = 0;
-    satz->Felder.push_back(feld);
-  }
+  satz->Felder = Tabelle.Spalten;
   const bool geklammert = Name.startsWith(u'[');
   satz->Tabellen.push_back({geklammert ? Name.mid(1).chopped(1) : Name, {}, {}});
   Odbc_Schluessel_zuordnen(*satz, 0, Tabelle);

@@ -12,24 +12,21 @@
 namespace marklink::db {
 
 struct Odbc_Tabelle {
-  struct Spalte {
-    QString Name;
-    Feldart Art = Feldart::Text;
-    int Bits = 32;
-    bool Autowert = false;
-  };
-  std::vector<Spalte> Spalten;  ///< in the table's order; empty: there is no such table
-  QStringList Schluessel;       ///< primary key, else columns that are unique and never null
+  std::vector<Feld> Spalten;  ///< in the table's order, of table 0; empty: there is no such table
+  QStringList Schluessel;     ///< primary key, else columns that are unique and never null
   QStringList Indexanfaenge;
+  bool Vollstaendig = false;  ///< the server told all of it
 
-  const Spalte *finden(const QString &Name) const;
+  const Feld *finden(const QString &Name) const;
 };
 
 /// Shared by all connections to one catalogue, as long as there is one.
 class Odbc_Katalog {
  public:
   /// The table of that name; asks the server when it is not known yet, which uses the statement handle.
-  std::shared_ptr<const Odbc_Tabelle> Tabelle(Odbc_Griffe &Griffe, const QString &Name);
+  /// Nothing when the connection, the time-out or the transaction was lost over it; `Meldung` tells.
+  std::shared_ptr<const Odbc_Tabelle> Tabelle(Odbc_Griffe &Griffe, const QString &Name,
+                                              Odbc_Meldung &Meldung);
   /// After a failure that may come from another schema than the one known.
   void vergessen() { Tabellen_.clear(); }
 

@@ -4,28 +4,30 @@
 
 #include <algorithm>
 
-#include "ODBC_Werte.h"
+#include "ODBC_Typen.h"
 
 namespace marklink::db {
 
 namespace {
 
 constexpr qsizetype Vorrat_hoechstens = 512;
-constexpr qsizetype Merkbar = 20000;  ///< characters; a longer text is a list that does not come again
-constexpr std::size_t Werte_hoechstens = 2000;  ///< the server takes 2,100 parameters, some for itself
+constexpr qsizetype Vorratstext_hoechstens = 10000;  ///< characters of a statement that is kept
+constexpr std::size_t Werte_hoechstens = 1000;       ///< parameters; the server takes 2100
 
 bool gleich(const QString &A, const QString &B) { return A.compare(B, Qt::CaseInsensitive) == 0; }
 
-/// The text with a mark for each value. A number behind TOP stays in it: the server takes no parameter there.
-/// So do all values when there are more than it takes; none of them holds an apostrophe.
+/// The text with a mark for each value. A number behind TOP stays in it, since the server takes no parameter
+/// there; all values do where there are more than it takes. No text among them holds an apostrophe.
 QString Text_bilden(const Anweisung &Sql, std::vector<int> &Werte) {
-  using Art = decltype(Anweisung::Stueck::Art);
-  const bool zu_viele = Sql.Stuecke().size() > 2 * Werte_hoechstens;  // each stands behind a literal
+  using Art = enum Anweisung::Stueck::Art;
   QString text;
-  for (std::size_t i = 0; i < Sql.Stuecke().size(); ++i) {
-    const auto &stueck = Sql.Stuecke()[i];
-    const bool hinter_TOP = QStringView(text).trimmed().endsWith(u" TOP", Qt::CaseInsensitive);
-    if (stueck.Art == Art::Literal || (stueck.Art == Art::Zahlwert && (hinter_TOP || zu_viele))) {
+  const auto &stuecke = Sql.Stuecke();
+  const bool zu_viele = stuecke.size() > 2 * Werte_hoechstens;
+  for (std::size_t i = 0; i < stuecke.size(); ++i) {
+    const auto &stueck = stuecke[i];
+    const bool hinter_TOP = stueck.Art == Art::Zahlwert &&
+                            QStringView(text).trimmed().endsWith(QLatin1String(" TOP"), Qt::CaseInsensitive);
+    if (stueck.Art == Art::Literal || hinter_TOP || (zu_viele && stueck.Art == Art::Zahlwert)) {
       text += stueck.Text;
     } else if (zu_viele) {
       text += QStringLiteral("N'") + stueck.Text + u'\'';
@@ -114,21 +116,25 @@ void Tabellen_zuordnen(Spaltensatz &Satz, const Odbc_Plan &P,
     Feld &feld = Satz.Felder[i];
     feld.Tabelle = Herkunft[i].first;
     if (feld.Tabelle < 0) continue;
-    const auto *spalte = P.Tabellen[static_cast<std::size_t>(feld.Tabelle)]->finden(Herkunft[i].second);
-    feld.Ursprung = spalte->Name;
-    feld.Geklammert = '[' + feld.Ursprung.toUtf8() + ']';
-    feld.Autowert = spalte->Autowert;
+    const Feld *spalte = P.Tabellen[static_cast<std::size_t>(feld.Tabelle)]->finden(Herkunft[i].second);
+    const Feld gelesen = std::exchange(feld, *spalte);
+    feld.Name = gelesen.Name;
+    feld.Art = gelesen.Art;
+    feld.Bits = gelesen.Bits;
+    feld.Tabelle = gelesen.Tabelle;
   }
   for (std::size_t t = 0; t < Satz.Tabellen.size(); ++t) Odbc_Schluessel_zuordnen(Satz, t, *P.Tabellen[t]);
 }
 
 }  // namespace
 
-std::shared_ptr<Odbc_Plan> Odbc_Plaene::Planen(Odbc_Griffe &Griffe, const Anweisung &Sql) {
+std::shared_ptr<Odbc_Plan> Odbc_Plaene::Planen(Odbc_Griffe &Griffe, const Anweisung &Sql,
+                                               Odbc_Meldung &Meldung) {
   auto neu = std::make_shared<Odbc_Plan>();
   neu->Sql = Text_bilden(Sql, neu->Werte);
   const QString schluessel = neu->Sql;
   if (const auto da = Plaene_.value(schluessel)) return da;
+  Meldung.Text = QStringLiteral("not one statement of this dialect");
   const auto ketten = Zerlegen(Sql);
   if (!ketten || ketten->empty()) return nullptr;
   const bool Datum = std::any_of(ketten->begin(), ketten->end(),
@@ -136,13 +142,15 @@ std::shared_ptr<Odbc_Plan> Odbc_Plaene::Planen(Odbc_Griffe &Griffe, const Anweis
   if (Datum) return nullptr;  // the other dialect's
   neu->Liest = ketten->front().ist("SELECT");
   neu->Form = Gestalt_lesen(*ketten);
-  for (const Gestalt::Herkunft &tabelle : neu->Form.Tabellen)
-    neu->Tabellen.push_back(Katalog_->Tabelle(Griffe, tabelle.Name));
+  for (const Gestalt::Herkunft &tabelle : neu->Form.Tabellen) {
+    neu->Tabellen.push_back(Katalog_->Tabelle(Griffe, tabelle.Name, Meldung));
+    if (!neu->Tabellen.back()) return nullptr;
+  }
   Schluessel_anfuegen(*neu);
   if (Plaene_.size() >= Vorrat_hoechstens) Plaene_.clear();
-  const bool bekannt = std::all_of(neu->Tabellen.begin(), neu->Tabellen.end(),
-                                   [](const auto &t) { return !t->Spalten.empty(); });
-  if (bekannt && schluessel.size() <= Merkbar) Plaene_.insert(schluessel, neu);
+  const bool bekannt =
+      std::all_of(neu->Tabellen.begin(), neu->Tabellen.end(), [](const auto &t) { return t->Vollstaendig; });
+  if (bekannt && schluessel.size() <= Vorratstext_hoechstens) Plaene_.insert(schluessel, neu);
   return neu;
 }
 

@@ -27,8 +27,9 @@ class Odbc_Plaene {
  public:
   explicit Odbc_Plaene(std::shared_ptr<Odbc_Katalog> Katalog) : Katalog_(std::move(Katalog)) {}
 
-  /// May ask the catalogue, which uses the statement handle. Nothing when the text is not one statement.
-  std::shared_ptr<Odbc_Plan> Planen(Odbc_Griffe &Griffe, const Anweisung &Sql);
+  /// May ask the catalogue, which uses the statement handle. Nothing when the text is not one statement, or
+  /// the catalogue did not answer; `Meldung` tells.
+  std::shared_ptr<Odbc_Plan> Planen(Odbc_Griffe &Griffe, const Anweisung &Sql, Odbc_Meldung &Meldung);
   /// The columns of the open result; empty when it has none. Sets `Passt` to false when the tables are not
   /// (any more) what the catalogue told.
   std::shared_ptr<const Spaltensatz> Beschreiben(SQLHSTMT Stmt, Odbc_Plan &P, bool &Passt);

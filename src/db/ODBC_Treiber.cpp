@@ -24,15 +24,13 @@ class ODBC_Sitzung final : public Sitzung {
   bool Lesen(const Anweisung &Sql, Ergebnis &Ziel) override;
   bool Beginnen() override;
   bool Abschliessen() override;
+  bool Abschluss_ungewiss() const override { return Ungewiss_; }
   void Verwerfen() override;
   Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,
                          const std::vector<const Feld *> &Felder) override;
   qint64 Letzte_Nummer() override { return Letzte_Nummer_; }
   QByteArray Zeilennummer_Spalte() const override { return {}; }
-  QByteArray Unveraendert(const Feld &Spalte) const override {
-    const QByteArray genau = Spalte.Art == Feldart::Text ? " COLLATE Latin1_General_BIN2" : "";
-    return "EXISTS (SELECT " + Spalte.Geklammert + genau + " INTERSECT SELECT ?)";
-  }
+  QByteArray Unveraendert(const Feld &Spalte) const override { return Spalte.Unveraendert; }
   QString Fehler() const override { return Meldung_.Text; }
 
  private:
@@ -44,6 +42,7 @@ class ODBC_Sitzung final : public Sitzung {
   bool scheitern(const Odbc_Meldung &Meldung);
   bool scheitern(const char *Grund);
   bool Transaktion_verloren();
+  void Offenes_aufgeben();
 
   Verbindungsdaten Daten_;
   std::shared_ptr<Odbc_Server> Server_;
@@ -53,6 +52,7 @@ class ODBC_Sitzung final : public Sitzung {
   bool In_Stapel_ = false;   ///< between Beginnen() and its end
   bool Unberuehrt_ = false;  ///< nothing was written in it yet
   bool Verloren_ = false;    ///< the connection is gone, or nobody knows what is open on it
+  bool Ungewiss_ = false;    ///< how the last commit ended nobody knows
   Odbc_Meldung Meldung_;     ///< of what failed last
   qint64 Letzte_Nummer_ = 0;
 };
@@ -68,6 +68,8 @@ bool ODBC_Sitzung::Verbinden() {
 bool ODBC_Sitzung::scheitern(const Odbc_Meldung &Meldung) {
   Meldung_ = Meldung;
   Verloren_ = Meldung.Verloren || Meldung.Gewartet || Griffe_.Tot();
+  // Known otherwise until now; a transaction goes on as it began.
+  if (Meldung.Andere_Gestalt) Plaene_.vergessen();
   return false;
 }
 
@@ -78,9 +80,12 @@ bool ODBC_Sitzung::scheitern(const char *Grund) {
 
 std::shared_ptr<const Spaltensatz> ODBC_Sitzung::Beschreiben(const Anweisung &Sql) {
   for (int versuch = 0;; ++versuch) {
-    const auto plan = Plaene_.Planen(Griffe_, Sql);
+    Odbc_Meldung meldung;
+    const auto plan = Plaene_.Planen(Griffe_, Sql, meldung);
     if (!plan) {
-      scheitern("not one statement of this dialect");
+      scheitern(meldung);
+      if (Verloren_ && !meldung.Gewartet && versuch == 0 && Verbinden()) continue;
+      Offenes_aufgeben();
       return nullptr;
     }
     if (plan->Form.Ganze_Tabelle) {
@@ -123,10 +128,11 @@ ODBC_Sitzung::Ausgang ODBC_Sitzung::versuchen(const Anweisung &Sql, Ergebnis &Zi
   const auto gescheitert = [this] {
     return Verloren_ && !Meldung_.Gewartet ? Ausgang::Veraltet : Ausgang::Gescheitert;
   };
-  const auto plan = Plaene_.Planen(Griffe_, Sql);
+  Odbc_Meldung meldung;
+  const auto plan = Plaene_.Planen(Griffe_, Sql, meldung);
   if (!plan) {
-    scheitern("not one statement of this dialect");
-    return Ausgang::Gescheitert;
+    scheitern(meldung);
+    return gescheitert();
   }
   // What changes rows has a transaction, too: until that ends nothing is written, and it may start again.
   const bool allein = !plan->Liest && !In_Stapel_;
@@ -137,6 +143,7 @@ ODBC_Sitzung::Ausgang ODBC_Sitzung::versuchen(const Anweisung &Sql, Ergebnis &Zi
   Odbc_Parameter werte;
   for (const int i : plan->Werte) werte.Anweisungswert(Sql.Stuecke()[static_cast<std::size_t>(i)]);
   if (!Ausfuehren(plan->Sql, werte)) return gescheitert();
+  if (!plan->Liest) Unberuehrt_ = false;
   const SQLHSTMT stmt = Griffe_.Offene_Anweisung();
   bool passt = true;
   Ziel.Spalten = Plaene_.Beschreiben(stmt, *plan, passt);
@@ -160,14 +167,18 @@ bool ODBC_Sitzung::Lesen(const Anweisung &Sql, Ergebnis &Ziel) {
   }
   if (ausgang != Ausgang::Gut) {
     Ziel.Zeilen.clear();
-    if (Meldung_.Andere_Gestalt) Plaene_.vergessen();
-    // The server may have ended the transaction, or hold locks in it still; the next batch needs a sound one.
-    Odbc_Meldung dabei;
-    if (!In_Stapel_ && !Verloren_) Transaktion_.Zurueckrollen(dabei);
-    Verloren_ |= dabei.Verloren || dabei.Gewartet;
+    Offenes_aufgeben();
   }
   Griffe_.Anweisung();
   return ausgang == Ausgang::Gut;
+}
+
+/// After a failure outside a batch: the server may have ended the transaction, or hold locks in it still, and
+/// the next batch needs a sound one.
+void ODBC_Sitzung::Offenes_aufgeben() {
+  Odbc_Meldung dabei;
+  if (!In_Stapel_ && !Verloren_) Transaktion_.Zurueckrollen(dabei);
+  Verloren_ |= dabei.Verloren || dabei.Gewartet;
 }
 
 bool ODBC_Sitzung::Beginnen() {
@@ -183,7 +194,8 @@ bool ODBC_Sitzung::Beginnen() {
 bool ODBC_Sitzung::Abschliessen() {
   In_Stapel_ = false;
   Odbc_Meldung meldung;
-  if (Transaktion_.Abschliessen(meldung)) return true;
+  Ungewiss_ = !Transaktion_.Abschliessen(meldung);
+  if (!Ungewiss_) return true;
   scheitern(meldung);
   Verloren_ = true;  // whether it has a transaction open nobody knows
   return false;

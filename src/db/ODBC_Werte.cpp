@@ -63,96 +63,91 @@ Zelle Zeitzelle(const SQL_TIMESTAMP_STRUCT &Zeit, Speicher &Lager) {
   char text[40] = {};
   const int laenge = std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", Zeit.year, Zeit.month,
                                    Zeit.day, Zeit.hour, Zeit.minute, Zeit.second);
-  Zelle zelle = Lager.Kopie(Zelle::aus_Bytes(Zelle::Art::Text, text, static_cast<std::size_t>(laenge)));
-  // Parts of a second are not kept, so nobody may compare it with what stands in the table.
-  zelle.Ungewiss = Zeit.fraction != 0;
-  return zelle;
+  return Lager.Kopie(Zelle::aus_Bytes(Zelle::Art::Text, text, static_cast<std::size_t>(laenge)));
 }
 
 }  // namespace
 
+/// A value of fixed length, which the caller puts in its place.
+Odbc_Parameter::Einer &Odbc_Parameter::Anfuegen(SQLSMALLINT C, SQLSMALLINT Sql, SQLULEN Groesse,
+                                                SQLSMALLINT Stellen, SQLLEN Laenge) {
+  Einer &neu = Alle_.emplace_back();
+  neu.C = C;
+  neu.Sql = Sql;
+  neu.Groesse = Groesse;
+  neu.Stellen = Stellen;
+  neu.Bytes = reinterpret_cast<const char *>(&neu.Ganz);
+  neu.Laenge = Laenge;
+  return neu;
+}
+
 Odbc_Parameter::Einer &Odbc_Parameter::Text(const QString &Wert) {
   const auto laenge = static_cast<SQLULEN>(Wert.size());
   const bool kurz = laenge <= Kurztext;
-  Einer &neu =
-      Alle_.emplace_back(Einer{SQL_C_WCHAR, static_cast<SQLSMALLINT>(kurz ? SQL_WVARCHAR : SQL_WLONGVARCHAR),
-                               kurz ? Kurztext : laenge, 0});
+  Einer &neu = Anfuegen(SQL_C_WCHAR, kurz ? SQL_WVARCHAR : SQL_WLONGVARCHAR, kurz ? Kurztext : laenge, 0,
+                        static_cast<SQLLEN>(laenge * 2));
   neu.Text = Wert;
   neu.Bytes = reinterpret_cast<const char *>(neu.Text.utf16());
-  neu.Laenge = static_cast<SQLLEN>(laenge * 2);
   return neu;
 }
 
-Odbc_Parameter::Einer &Odbc_Parameter::Ganzzahl(qint64 Wert) {
-  Einer &neu = Alle_.emplace_back(Einer{SQL_C_SBIGINT, SQL_BIGINT, 19, 0});
+Odbc_Parameter::Einer &Odbc_Parameter::Zahl(qint64 Wert) {
+  Einer &neu = Anfuegen(SQL_C_SBIGINT, SQL_BIGINT, 19, 0, sizeof Wert);
   neu.Ganz = Wert;
-  neu.Bytes = reinterpret_cast<const char *>(&neu.Ganz);
-  neu.Laenge = sizeof neu.Ganz;
   return neu;
 }
 
-Odbc_Parameter::Einer &Odbc_Parameter::Gleitkomma(double Wert) {
-  Einer &neu = Alle_.emplace_back(Einer{SQL_C_DOUBLE, SQL_DOUBLE, 15, 0});
+Odbc_Parameter::Einer &Odbc_Parameter::Zahl(double Wert) {
+  Einer &neu = Anfuegen(SQL_C_DOUBLE, SQL_DOUBLE, 15, 0, sizeof Wert);
   neu.Gleit = Wert;
-  neu.Bytes = reinterpret_cast<const char *>(&neu.Gleit);
-  neu.Laenge = sizeof neu.Gleit;
   return neu;
 }
 
-Odbc_Parameter::Einer &Odbc_Parameter::Null(Feldart Art) {
+Odbc_Parameter::Einer &Odbc_Parameter::Leer_von(Feldart Art) {
   switch (Art) {
     case Feldart::Ganzzahl:
     case Feldart::Ja_Nein:
-      return Ganzzahl(0);
+      return Zahl(qint64(0));
     case Feldart::Gleitkomma:
-      return Gleitkomma(0);
+      return Zahl(0.0);
     case Feldart::Datum:
-      return Alle_.emplace_back(Einer{SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP, 23, 3});
+      return Anfuegen(SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP, 23, 3, sizeof(SQL_TIMESTAMP_STRUCT));
     case Feldart::Binaer:
-      return Alle_.emplace_back(Einer{SQL_C_BINARY, SQL_LONGVARBINARY, 1, 0});
+      return Anfuegen(SQL_C_BINARY, SQL_LONGVARBINARY, 1, 0, 0);
     default:
       return Text({});
   }
 }
 
 void Odbc_Parameter::Anweisungswert(const Anweisung::Stueck &S) {
-  if (S.Art == Anweisung::Stueck::Art::Textwert) {
-    Text(S.Text);
-    return;
-  }
   bool ganz = false;
   const qint64 zahl = S.Text.toLongLong(&ganz);
-  if (ganz)
-    Ganzzahl(zahl);
+  if (S.Art == Anweisung::Stueck::Art::Textwert)
+    Text(S.Text);
+  else if (ganz)
+    Zahl(zahl);
   else
-    Gleitkomma(S.Text.toDouble());
+    Zahl(S.Text.toDouble());
 }
 
 bool Odbc_Parameter::Zelle_anfuegen(const Zelle &Z, const Feld *Spalte) {
   const Feldart art = Spalte ? Spalte->Art : Feldart::Offen;
   switch (Z.Inhalt) {
-    case Zelle::Art::Null: {
-      Null(art).Laenge = SQL_NULL_DATA;
+    case Zelle::Art::Null:
+      Leer_von(art).Laenge = SQL_NULL_DATA;
       return true;
-    }
     case Zelle::Art::Ganz:
-      Ganzzahl(Z.Ganz);
+      Zahl(Z.Ganz);
       return true;
     case Zelle::Art::Gleit:
-      Gleitkomma(Z.Gleit);
+      Zahl(Z.Gleit);
       return true;
-    case Zelle::Art::Text: {
-      if (art != Feldart::Datum) {
-        Text(Text_von(Z));
-        return true;
-      }
-      Einer &neu = Null(art);
-      neu.Bytes = reinterpret_cast<const char *>(&neu.Zeit);
-      neu.Laenge = sizeof neu.Zeit;
-      return Zeit_lesen(Text_von(Z), neu.Zeit);
-    }
+    case Zelle::Art::Text:
+      if (art == Feldart::Datum) return Zeit_lesen(Text_von(Z), Leer_von(art).Zeit);
+      Text(Text_von(Z));
+      return true;
     case Zelle::Art::Binaer: {
-      Einer &neu = Null(Feldart::Binaer);
+      Einer &neu = Leer_von(Feldart::Binaer);
       neu.Groesse = std::max<SQLULEN>(1, Z.Laenge);
       neu.Bytes = Z.Laenge ? Z.Daten : "";
       neu.Laenge = static_cast<SQLLEN>(Z.Laenge);
@@ -171,40 +166,6 @@ bool Odbc_Parameter::Binden(SQLHSTMT Stmt) {
     if (!SQL_SUCCEEDED(rc)) return false;
   }
   return true;
-}
-
-Feldart Feldart_aus_Odbc(SQLSMALLINT Typ, int &Bits) {
-  Bits = 32;
-  switch (Typ) {
-    case SQL_BIT:
-      return Feldart::Ja_Nein;
-    case SQL_TINYINT:
-    case SQL_SMALLINT:
-      Bits = 16;
-      return Feldart::Ganzzahl;
-    case SQL_INTEGER:
-      return Feldart::Ganzzahl;
-    case SQL_BIGINT:
-      Bits = 64;
-      return Feldart::Ganzzahl;
-    case SQL_REAL:
-    case SQL_FLOAT:
-    case SQL_DOUBLE:
-    case SQL_DECIMAL:
-    case SQL_NUMERIC:
-      return Feldart::Gleitkomma;
-    case SQL_TYPE_DATE:
-    case SQL_TYPE_TIMESTAMP:
-    case SQL_DATETIME:
-    case SQL_TIMESTAMP:
-      return Feldart::Datum;
-    case SQL_BINARY:
-    case SQL_VARBINARY:
-    case SQL_LONGVARBINARY:
-      return Feldart::Binaer;
-    default:
-      return Feldart::Text;
-  }
 }
 
 bool Odbc_Zelle_holen(SQLHSTMT Stmt, int Nummer, Feldart Art, Speicher &Lager, Zelle &Ziel) {

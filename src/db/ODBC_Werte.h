@@ -22,26 +22,26 @@ class Odbc_Parameter {
 
  private:
   struct Einer {
-    SQLSMALLINT C, Sql;
-    SQLULEN Groesse;
-    SQLSMALLINT Stellen;
+    SQLSMALLINT C = 0, Sql = 0;
+    SQLULEN Groesse = 0;
+    SQLSMALLINT Stellen = 0;
     QString Text{};
-    qint64 Ganz = 0;
-    double Gleit = 0;
-    SQL_TIMESTAMP_STRUCT Zeit{};
+    union {
+      qint64 Ganz = 0;
+      double Gleit;
+      SQL_TIMESTAMP_STRUCT Zeit;
+    };
     const char *Bytes = nullptr;
     SQLLEN Laenge = 0;
   };
   Einer &Text(const QString &Wert);
-  Einer &Ganzzahl(qint64 Wert);
-  Einer &Gleitkomma(double Wert);
-  Einer &Null(Feldart Art);
+  Einer &Zahl(qint64 Wert);
+  Einer &Zahl(double Wert);
+  Einer &Anfuegen(SQLSMALLINT C, SQLSMALLINT Sql, SQLULEN Groesse, SQLSMALLINT Stellen, SQLLEN Laenge);
+  Einer &Leer_von(Feldart Art);  ///< of the type that such a column takes
 
   std::deque<Einer> Alle_;  ///< whose places do not change
 };
-
-/// What a column of that ODBC type holds.
-Feldart Feldart_aus_Odbc(SQLSMALLINT Typ, int &Bits);
 
 /// Field `Nummer` (0-based) of the row just fetched; false when the driver fails.
 bool Odbc_Zelle_holen(SQLHSTMT Stmt, int Nummer, Feldart Art, Speicher &Lager, Zelle &Ziel);

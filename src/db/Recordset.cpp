@@ -209,6 +209,8 @@ void Recordset::Update() { d->Arbeit_uebernehmen(); }
 void Recordset::CancelUpdate() { d->Arbeit_verwerfen(); }
 void Recordset::Delete() { d->Loeschen(); }
 bool Recordset::UpdateBatch() { return d->Stapel_senden(); }
+bool Recordset::IsUncertain() const { return d->Ungewiss; }
+
 bool Recordset::HasPendingChanges() const { return d->In_Arbeit || !d->Offene.empty(); }
 bool Recordset::IsPending() const {
   const Zeile *zeile = d->Aktuelle();

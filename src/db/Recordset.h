@@ -96,6 +96,9 @@ class Recordset {
   /// the set is not open. Auto-numbered fields of new rows hold their number afterwards.
   bool UpdateBatch();
   bool HasPendingChanges() const;
+  /// Whether nobody knows if the last batch was written, since the answer to its commit got lost. All of it
+  /// stays pending then.
+  bool IsUncertain() const;
   /// Whether the current row has changes that no batch has taken yet.
   bool IsPending() const;
 

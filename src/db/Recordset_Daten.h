@@ -39,12 +39,15 @@ class Stapeltexte {
  public:
   template <typename Bilden>
   const QByteArray &Text(char Art, int Tabelle, const std::vector<int> &Felder,
-                         const std::vector<int> &Geprueft, Bilden bilden) {
-    if (Art != Art_ || Tabelle != Tabelle_ || Felder != Felder_ || Geprueft != Geprueft_) {
+                         const std::vector<int> &Geprueft, const std::vector<int> &Gesucht, Bilden bilden) {
+    const bool gleich = Art == Art_ && Tabelle == Tabelle_ && Felder == Felder_ && Geprueft == Geprueft_ &&
+                        Gesucht == Gesucht_;
+    if (!gleich) {
       Art_ = Art;
       Tabelle_ = Tabelle;
       Felder_ = Felder;
       Geprueft_ = Geprueft;
+      Gesucht_ = Gesucht;
       Text_ = bilden();
     }
     return Text_;
@@ -53,7 +56,7 @@ class Stapeltexte {
  private:
   char Art_ = 0;
   int Tabelle_ = -1;
-  std::vector<int> Felder_, Geprueft_;
+  std::vector<int> Felder_, Geprueft_, Gesucht_;
   QByteArray Text_;
 };
 
@@ -90,6 +93,7 @@ struct Recordset::Daten {
 
   Stapeltexte Texte;  ///< to be dropped with `Spalten`
 
+  bool Ungewiss = false;   ///< nobody knows whether the last batch was written
   bool In_Arbeit = false;  ///< the current row has edits since the last Update()
   std::vector<Zelle> Vorher;
   Zeile::Stand Vorher_Stand = Zeile::Stand::Sauber;
@@ -100,23 +104,29 @@ struct Recordset::Daten {
   void leeren();
   void Alles_lesen();
   std::vector<int> Bekanntes_auflegen(const std::vector<Zeile> &Bekannte);
-  int Gleiche_finden(const Zeile &Z) const;
+  std::vector<int> Bekanntes_finden(const std::vector<Zeile> &Bekannte) const;
+  bool in_Gebrauch(int Nummer) const { return Nummer == Aktuell || (In_Arbeit && Nummer == Vorher_Aktuell); }
   void schliessen();
   void Sicht_fordern();
   void Sicht_bauen();
+  std::vector<int> Kandidaten(const std::vector<const Filterausdruck::Knoten *> &Werte);
+  void Zeilen_uebernehmen(const Ergebnis &E);
+  void Stellen(int Neue_Stelle);
+  void Filter_anwenden();
+  int Suchen(const Filterausdruck &Suche);
+  const Zelle &Zelle_von(const QString &Name, Feldart &Art);
+
+  // Look-ups (Recordset_Nachschlagen.cpp)
   bool Nachschlagbar(const Filterausdruck &Suche) const;
   bool Nachschlagen(const Filterausdruck &Suche, std::vector<int> &Treffer);
   bool Vorwaerts_nachschlagen(const Filterausdruck &Suche);
   bool Engine_fragen(const Filterausdruck &Suche, Ergebnis &Ziel);
   std::vector<int> Offene_Kandidaten(const Filterausdruck &Suche);
+  std::vector<int> Offene_zuordnen(const Ergebnis &E) const;
   qint64 Ort(int Nummer) const;
+  /// Whether the engine numbers its rows in their order.
+  bool geordnet() const { return Spalten->Zeilennummer >= 0 && !Spalten->Nummer_aus_Schluessel; }
   void Unbenutztes_vergessen();
-  void Zeilen_uebernehmen(const Ergebnis &E);
-  std::vector<int> Kandidaten(const std::vector<const Filterausdruck::Knoten *> &Werte);
-  void Stellen(int Neue_Stelle);
-  void Filter_anwenden();
-  int Suchen(const Filterausdruck &Suche);
-  const Zelle &Zelle_von(const QString &Name, Feldart &Art);
 
   // Changing (Recordset_Aendern.cpp)
   Zeile *Aktuelle();

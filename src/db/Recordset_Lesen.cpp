@@ -1,16 +1,13 @@
 // The record set: opening, reading late, filters and the rows under them.
 #include <algorithm>
-#include <limits>
-#include <unordered_set>
 
 #include "Ablaufverfolgung.h"
 #include "Recordset_Daten.h"
+#include "Zeilenabgleich.h"
 
 namespace marklink::db {
 
 namespace {
-
-constexpr std::size_t Wenige = 32;  ///< pending rows that are looked through one by one
 
 void Indizes_auffrischen(Feldindex &Index, const std::vector<Zeile> &Zeilen, const Spaltensatz &Spalten) {
   for (int i = Index.Zeilen(); i < static_cast<int>(Zeilen.size()); ++i) {
@@ -142,46 +139,55 @@ void Recordset::Daten::Alles_lesen() {
   Stellen(aktuell >= 0 && platz != Sicht.end() ? static_cast<int>(platz - Sicht.begin()) : 0);
 }
 
-/// Puts the rows in use in the place of the table's; gives the new index of each known row, -1 for none.
-std::vector<int> Recordset::Daten::Bekanntes_auflegen(const std::vector<Zeile> &Bekannte) {
-  std::vector<int> neue_Nummer(Bekannte.size(), -1);
+/// The row just read that each known one is; -1 for none.
+std::vector<int> Recordset::Daten::Bekanntes_finden(const std::vector<Zeile> &Bekannte) const {
+  std::vector<int> gefunden(Bekannte.size(), -1);
   const int nummer = Spalten->Zeilennummer;
+  if (nummer < 0) {
+    // By what it holds; a row that nobody uses may be out of date and take another's place.
+    std::vector<std::size_t> gesuchte;
+    std::vector<const Zelle *> zellen, gelesene;
+    for (std::size_t i = 0; i < Bekannte.size(); ++i) {
+      const bool gebraucht = Bekannte[i].Offen || in_Gebrauch(static_cast<int>(i));
+      if (!Bekannte[i].Basis || !gebraucht) continue;
+      gesuchte.push_back(i);
+      zellen.push_back(Bekannte[i].Basis);
+    }
+    for (const Zeile &z : Zeilen) gelesene.push_back(z.Basis);
+    const std::vector<int> orte = Inhalte_zuordnen(*Spalten, zellen, gelesene);
+    for (std::size_t k = 0; k < gesuchte.size(); ++k) gefunden[gesuchte[k]] = orte[k];
+    return gefunden;
+  }
   std::unordered_map<qint64, int> nach_Nummer;
   for (const Zeile &z : Bekannte) {
-    if (nummer >= 0 && z.Basis) nach_Nummer.emplace(z.Basis[nummer].Ganz, -1);
+    if (z.Basis) nach_Nummer.emplace(z.Basis[nummer].Ganz, -1);
   }
   for (std::size_t i = 0; !nach_Nummer.empty() && i < Zeilen.size(); ++i) {
     const auto da = nach_Nummer.find(Zeilen[i].Basis[nummer].Ganz);
     if (da != nach_Nummer.end()) da->second = static_cast<int>(i);
   }
   for (std::size_t i = 0; i < Bekannte.size(); ++i) {
+    if (Bekannte[i].Basis) gefunden[i] = nach_Nummer[Bekannte[i].Basis[nummer].Ganz];
+  }
+  return gefunden;
+}
+
+/// Puts the rows in use in the place of the table's; gives the new index of each known row, -1 for none.
+std::vector<int> Recordset::Daten::Bekanntes_auflegen(const std::vector<Zeile> &Bekannte) {
+  std::vector<int> neue_Nummer = Bekanntes_finden(Bekannte);
+  for (std::size_t i = 0; i < Bekannte.size(); ++i) {
     const Zeile &z = Bekannte[i];
-    const bool in_Gebrauch = z.Offen || static_cast<int>(i) == Aktuell;
-    if (z.Basis && nummer >= 0) neue_Nummer[i] = nach_Nummer[z.Basis[nummer].Ganz];
-    if (z.Basis && nummer < 0) neue_Nummer[i] = Gleiche_finden(z);
-    if (neue_Nummer[i] < 0 && (in_Gebrauch || z.S == Zeile::Stand::Neu)) {
+    const bool gebraucht = z.Offen || static_cast<int>(i) == Aktuell;
+    if (neue_Nummer[i] < 0 && (gebraucht || z.S == Zeile::Stand::Neu)) {
       neue_Nummer[i] = static_cast<int>(Zeilen.size());
       Zeilen.push_back(z);
-    } else if (neue_Nummer[i] >= 0 && in_Gebrauch) {
+    } else if (neue_Nummer[i] >= 0 && gebraucht) {
       // Of several copies of one row the changed one counts; one that nobody uses may be out of date.
       Zeile &platz = Zeilen[static_cast<std::size_t>(neue_Nummer[i])];
       if (!platz.Offen) platz = z;
     }
   }
   return neue_Nummer;
-}
-
-/// The row just read that holds what `Z` was written with, for a table that numbers no rows: the last of
-/// several; -1 for none.
-int Recordset::Daten::Gleiche_finden(const Zeile &Z) const {
-  for (int i = static_cast<int>(Zeilen.size()) - 1; i >= 0; --i) {
-    const Zelle *zellen = Zeilen[static_cast<std::size_t>(i)].Basis;
-    bool gleich = zellen && zellen != Z.Basis;
-    for (std::size_t k = 0; gleich && k < Spalten->Felder.size(); ++k)
-      gleich = Z.Basis[k].Ungewiss || Z.Basis[k].gleich(zellen[k]);
-    if (gleich) return i;
-  }
-  return -1;
 }
 
 /// Lists the rows of a read-out set under the filter.
@@ -215,119 +221,6 @@ std::vector<int> Recordset::Daten::Kandidaten(const std::vector<const Filterausd
   if (index == Indizes.end()) index = Indizes.emplace(Indizes.end(), felder);
   Indizes_auffrischen(*index, Zeilen, *Spalten);
   return index->Kandidaten(brauchbare);
-}
-
-bool Recordset::Daten::Nachschlagbar(const Filterausdruck &Suche) const {
-  if (Gelesen || Spalten->Zeilennummer < 0 || Spalten->Tabellen.size() != 1) return false;
-  const auto &gleichungen = Suche.Gleichungen();
-  return std::any_of(gleichungen.begin(), gleichungen.end(), [this](const Filterausdruck::Knoten *k) {
-    const auto feld = static_cast<std::size_t>(k->Feld);
-    const Feldart art = Spalten->Felder[feld].Art;
-    return Spalten->Tabellen[0].Nachschlagbar[feld] && (art == Feldart::Text || art == Feldart::Ganzzahl);
-  });
-}
-
-/// Drops the rows that carry no changes from an unread set.
-void Recordset::Daten::Unbenutztes_vergessen() {
-  if (Gelesen || !Offene.empty()) return;
-  Zeilen.clear();
-  Sicht.clear();
-  Indizes.clear();
-  if (Lager.size() > 1) Lager.erase(Lager.begin(), std::prev(Lager.end()));
-  if (!Lager.empty()) Lager.back().leeren();
-  Aenderungen.leeren();
-  Aktuell = -1;
-  Vorher_Aktuell = -1;
-}
-
-/// The rows that the engine's index finds for the equations, in `Ziel`. False when the engine failed.
-bool Recordset::Daten::Engine_fragen(const Filterausdruck &Suche, Ergebnis &Ziel) {
-  Anweisung sql("SELECT * FROM ", Teiltext{Spalten->Ganze_Tabelle});
-  const char *davor = " WHERE ";
-  for (const auto *k : Suche.Gleichungen()) {
-    const Feld &feld = Spalten->Felder[static_cast<std::size_t>(k->Feld)];
-    if (feld.Art != Feldart::Text && feld.Art != Feldart::Ganzzahl) continue;
-    sql += Anweisung(Teiltext{QLatin1String(davor) + u'[' + feld.Name + u']'}, " = ");
-    const bool zahl = k->Wert.Roh_Zahl && feld.Art == Feldart::Ganzzahl;
-    sql += zahl ? Anweisung(Zahl(k->Wert.Zahl), "") : Anweisung(Wert{k->Wert.Roh}, "");
-    davor = " AND ";
-  }
-  if (Lager.empty()) Lager.emplace_back();
-  std::swap(Ziel.Lager, Lager.back());
-  bool gut = false;
-  {
-    Leihe leihe(Verbindung);
-    gut = leihe.Lesen(sql, Ziel) && Ziel.Spalten && Ziel.Spalten->Zellen() == Spalten->Zellen();
-  }
-  std::swap(Ziel.Lager, Lager.back());
-  return gut;
-}
-
-/// Where a row stands in the table's order; new rows come last.
-qint64 Recordset::Daten::Ort(int Nummer) const {
-  const Zelle *basis = Zeilen[static_cast<std::size_t>(Nummer)].Basis;
-  return basis ? basis[Spalten->Zeilennummer].Ganz : std::numeric_limits<qint64>::max();
-}
-
-/// Pending rows that may satisfy the equations.
-std::vector<int> Recordset::Daten::Offene_Kandidaten(const Filterausdruck &Suche) {
-  if (Offene.size() <= Wenige) return Offene;
-  std::vector<int> zeilen = Kandidaten(Suche.Gleichungen());
-  std::erase_if(zeilen, [this](int i) { return !Zeilen[static_cast<std::size_t>(i)].Offen; });
-  return zeilen;
-}
-
-/// The rows of an unread set that satisfy `Suche`, in the table's order: those of the table, with the rows
-/// changed here in their place. False when the engine failed.
-bool Recordset::Daten::Nachschlagen(const Filterausdruck &Suche, std::vector<int> &Treffer) {
-  Treffer.clear();
-  const auto &gleichungen = Suche.Gleichungen();
-  if (std::any_of(gleichungen.begin(), gleichungen.end(), [](const auto *k) { return k->Wert.unvereinbar; }))
-    return true;
-  Ergebnis ergebnis;
-  if (!Engine_fragen(Suche, ergebnis)) return false;
-  for (const int i : Offene_Kandidaten(Suche)) {
-    const Zeile &z = Zeilen[static_cast<std::size_t>(i)];
-    if (z.sichtbar() && Suche.passt(z.Zellen())) Treffer.push_back(i);
-  }
-  std::unordered_set<qint64> geaenderte;
-  if (!ergebnis.Zeilen.empty()) {
-    for (const int i : Offene) geaenderte.insert(Ort(i));
-  }
-  for (const Zelle *zellen : ergebnis.Zeilen) {
-    if (geaenderte.contains(zellen[Spalten->Zeilennummer].Ganz) || !Suche.passt(zellen)) continue;
-    Zeile z;
-    z.Basis = zellen;
-    Treffer.push_back(static_cast<int>(Zeilen.size()));
-    Zeilen.push_back(z);
-  }
-  std::unordered_map<qint64, qint64> folge;  // where the engine's order is all there is
-  for (std::size_t k = 0; Spalten->Nummer_aus_Schluessel && k < ergebnis.Zeilen.size(); ++k)
-    folge.emplace(ergebnis.Zeilen[k][Spalten->Zeilennummer].Ganz, static_cast<qint64>(k));
-  const auto ort = [&](int i) {
-    const qint64 nummer = Ort(i);
-    if (!Spalten->Nummer_aus_Schluessel) return nummer;
-    const auto da = folge.find(nummer);
-    return da == folge.end() ? std::numeric_limits<qint64>::max() : da->second;
-  };
-  std::stable_sort(Treffer.begin(), Treffer.end(), [&](int a, int b) { return ort(a) < ort(b); });
-  return true;
-}
-
-/// Find() in an unread set. False when it cannot be answered without reading the table.
-bool Recordset::Daten::Vorwaerts_nachschlagen(const Filterausdruck &Suche) {
-  std::vector<int> treffer;
-  // Which rows lie behind the current one nobody knows without their order.
-  if (Spalten->Nummer_aus_Schluessel && Aktuell >= 0) return false;
-  if (Sicht_gilt || !Nachschlagbar(Suche) || !Nachschlagen(Suche, treffer)) return false;
-  const int von = Aktuell;
-  const auto da = std::find_if(treffer.begin(), treffer.end(), [&](int i) {
-    if (von < 0) return true;
-    return Ort(i) != Ort(von) ? Ort(i) > Ort(von) : Zeilen[static_cast<std::size_t>(von)].Basis || i >= von;
-  });
-  if (da == treffer.end()) return false;
-  Aktuell = *da;
-  return true;
 }
 
 /// Makes the rows under the (new) filter the visible ones and stands on the first.

@@ -57,7 +57,11 @@ class Stapel {
   bool nur_am_Inhalt(int Tabelle) const {
     return Tabelle_von(Tabelle).Schluessel.empty() && L_.Zeilennummer_Spalte().isEmpty();
   }
+  void leeren();
   void Inhalt_pruefen(const Zeile &Z, int Tabelle);
+  bool pruefbar(const Zeile &Z, std::size_t Feld) const {
+    return !Z.Basis[Feld].Ungewiss && S_.Felder[Feld].Bestaendig;
+  }
   void Bedingung_Werte(const Zeile &Z, int Tabelle);
   const Feld &Feld_von(int i) const { return S_.Felder[static_cast<std::size_t>(i)]; }
   const Basistabelle &Tabelle_von(int i) const { return S_.Tabellen[static_cast<std::size_t>(i)]; }
@@ -69,6 +73,7 @@ class Stapel {
   std::vector<const Feld *> Wertfelder_;
   std::vector<int> Felder_;    ///< written by the statement
   std::vector<int> Geprueft_;  ///< whose former values it asks for
+  std::vector<int> Gesucht_;   ///< of these the ones by which an index finds the row
   std::vector<Nummer> Nummern_;
   int Tabellen_geschrieben_ = 0;
   bool Begonnen_ = false;
@@ -91,9 +96,7 @@ QByteArray Stapel::Einfuegetext(int Tabelle) const {
 }
 
 Schreibstand Stapel::einfuegen(const Zeile &Z) {
-  Felder_.clear();
-  Werte_.clear();
-  Wertfelder_.clear();
+  leeren();
   int tabelle = S_.Tabellen.size() == 1 ? 0 : -1;
   for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
     const Feld &feld = S_.Felder[i];
@@ -105,7 +108,7 @@ Schreibstand Stapel::einfuegen(const Zeile &Z) {
     Wert_anfuegen(Z.Neu[i], static_cast<int>(i));
   }
   if (tabelle < 0) return Schreibstand::Abgelehnt;
-  const QByteArray &sql = Texte_.Text('I', tabelle, Felder_, {}, [&] { return Einfuegetext(tabelle); });
+  const QByteArray &sql = Texte_.Text('I', tabelle, Felder_, {}, {}, [&] { return Einfuegetext(tabelle); });
   const Schreibstand stand = schreiben(sql, "INSERT INTO ", tabelle);
   if (stand != Schreibstand::Geschrieben) return stand;
   const qint64 nummer = L_.Letzte_Nummer();
@@ -124,6 +127,7 @@ bool Stapel::Bedingung(int Tabelle, QByteArray &Sql) const {
   for (std::size_t k = 0; k < schluessel.size(); ++k) {
     Sql += (k > 0 ? " AND " : "") + Feld_von(schluessel[k]).Geklammert + " = ?";
   }
+  for (const int feld : Gesucht_) Sql += Feld_von(feld).Geklammert + " = ? AND ";
   const bool inhalt = nur_am_Inhalt(Tabelle);
   if (schluessel.empty() && !inhalt) {
     if (S_.Zeilennummer < 0) return false;
@@ -137,16 +141,32 @@ bool Stapel::Bedingung(int Tabelle, QByteArray &Sql) const {
 void Stapel::Bedingung_Werte(const Zeile &Z, int Tabelle) {
   const auto &schluessel = Tabelle_von(Tabelle).Schluessel;
   for (const int feld : schluessel) Wert_anfuegen(Z.Basis[feld], feld);
+  for (const int feld : Gesucht_) Wert_anfuegen(Z.Basis[feld], feld);
   if (schluessel.empty() && !nur_am_Inhalt(Tabelle)) Wert_anfuegen(Z.Basis[S_.Zeilennummer], -1);
   for (const int feld : Geprueft_) Wert_anfuegen(Z.Basis[feld], feld);
 }
 
-/// All columns that the row is known to hold have to hold the same still.
+/// All columns that the row is known to hold have to hold the same still. No index serves that comparison, so
+/// what begins one is compared plainly as well.
 void Stapel::Inhalt_pruefen(const Zeile &Z, int Tabelle) {
   Geprueft_.clear();
   for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
-    if (S_.Felder[i].Tabelle == Tabelle && !Z.Basis[i].Ungewiss) Geprueft_.push_back(static_cast<int>(i));
+    const Feld &feld = S_.Felder[i];
+    if (feld.Tabelle != Tabelle || !pruefbar(Z, i)) continue;
+    Geprueft_.push_back(static_cast<int>(i));
+    const bool schlicht = feld.Art == Feldart::Text || feld.Art == Feldart::Ganzzahl;
+    if (schlicht && Tabelle_von(Tabelle).Nachschlagbar[i] && !Z.Basis[i].ist_Null())
+      Gesucht_.push_back(static_cast<int>(i));
   }
+}
+
+/// Ready for the next statement.
+void Stapel::leeren() {
+  Felder_.clear();
+  Geprueft_.clear();
+  Gesucht_.clear();
+  Werte_.clear();
+  Wertfelder_.clear();
 }
 
 /// What somebody changed since it was read is not overwritten: the changed columns must hold what they held.
@@ -161,21 +181,18 @@ QByteArray Stapel::Aenderungstext(int Tabelle) const {
 }
 
 Schreibstand Stapel::Tabelle_aendern(const Zeile &Z, int Tabelle) {
-  Felder_.clear();
-  Geprueft_.clear();
-  Werte_.clear();
-  Wertfelder_.clear();
+  leeren();
   for (std::size_t i = 0; i < S_.Felder.size(); ++i) {
     if (S_.Felder[i].Tabelle != Tabelle || !Z.Neu[i].Gesetzt) continue;
     if (!Z.Basis[i].Ungewiss && Z.Neu[i].gleich(Z.Basis[i])) continue;
     Felder_.push_back(static_cast<int>(i));
-    if (!Z.Basis[i].Ungewiss) Geprueft_.push_back(static_cast<int>(i));
+    if (pruefbar(Z, i)) Geprueft_.push_back(static_cast<int>(i));
     Wert_anfuegen(Z.Neu[i], static_cast<int>(i));
   }
   if (Felder_.empty()) return Schreibstand::Geschrieben;
   if (nur_am_Inhalt(Tabelle)) Inhalt_pruefen(Z, Tabelle);
   const QByteArray &sql =
-      Texte_.Text('U', Tabelle, Felder_, Geprueft_, [&] { return Aenderungstext(Tabelle); });
+      Texte_.Text('U', Tabelle, Felder_, Geprueft_, Gesucht_, [&] { return Aenderungstext(Tabelle); });
   if (sql.isEmpty()) {
     Ablauf_melden(QStringLiteral("batch"), QStringLiteral("the set does not hold the row's key"));
     return Schreibstand::Abgelehnt;
@@ -202,10 +219,7 @@ QByteArray Stapel::Loeschtext() const {
 Schreibstand Stapel::loeschen(const Zeile &Z) {
   // Of a joined set: from the first table.
   if (S_.Tabellen.empty()) return Schreibstand::Abgelehnt;
-  Felder_.clear();
-  Geprueft_.clear();
-  Werte_.clear();
-  Wertfelder_.clear();
+  leeren();
   if (nur_am_Inhalt(0)) Inhalt_pruefen(Z, 0);
   const QByteArray sql = Loeschtext();
   if (sql.isEmpty()) return Schreibstand::Abgelehnt;
@@ -218,6 +232,7 @@ Schreibstand Stapel::loeschen(const Zeile &Z) {
 bool Recordset::Daten::Stapel_senden() {
   if (!Geoeffnet) return false;
   Arbeit_uebernehmen();
+  Ungewiss = false;
   if (Offene.empty()) return true;
   std::vector<int> geschrieben, bleiben;
   std::vector<std::pair<int, int>> halbe;  // rows of a joined set that only some tables took
@@ -236,6 +251,7 @@ bool Recordset::Daten::Stapel_senden() {
       if (stand != Schreibstand::Geschrieben && tabellen > 0) halbe.emplace_back(i, tabellen);
     }
     if (stapel.Begonnen() && !leihe.Abschliessen()) {
+      Ungewiss = leihe.Abschluss_ungewiss();
       leihe.Verwerfen();
       return false;
     }
@@ -258,7 +274,7 @@ void Recordset::Daten::Geschriebenes_uebernehmen(Zeile &Z) {
   }
   for (std::size_t k = 0; k < Spalten->Felder.size(); ++k) {
     const bool bekannt = Z.Neu[k].Gesetzt || Spalten->Felder[k].Autowert;
-    if (Z.S == Zeile::Stand::Neu) Z.Neu[k].Ungewiss = !bekannt;
+    if (Z.S == Zeile::Stand::Neu) Z.Neu[k].Ungewiss = !bekannt && Spalten->Felder[k].Vorgabe;
     if (bekannt) Z.Neu[k].Ungewiss = false;
     Z.Neu[k].Gesetzt = false;
   }

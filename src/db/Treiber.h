@@ -37,7 +37,9 @@ class Sitzung {
   virtual bool Lesen(const Anweisung &Sql, Ergebnis &Ziel) = 0;
 
   virtual bool Beginnen() = 0;      ///< a transaction that writes
-  virtual bool Abschliessen() = 0;  ///< false: nothing of it was written
+  virtual bool Abschliessen() = 0;  ///< false: nothing of it was written, or see Abschluss_ungewiss()
+  /// Whether a commit that failed just now may have been carried out all the same.
+  virtual bool Abschluss_ungewiss() const { return false; }
   virtual void Verwerfen() = 0;
   /// Runs a writing statement with "?" for each of `Werte`, names in brackets. `Felder` are the columns that
   /// they are for; nullptr for a row number.

@@ -22,7 +22,9 @@ struct Verbindungsdaten {
   int Wartezeit = 30;  ///< Connect Timeout, seconds
 };
 
-/// Reads "Key=Value;Key=Value" (keys without regard to case, unknown ones ignored).
+/// Reads "Key=Value;Key=Value" (keys without regard to case, unknown ones ignored). In a text with the keys
+/// and the order of the system's own the password may hold ";", and so may a file; a user name that holds
+/// ";Password=", or a server or catalogue that holds the key behind it, is not told apart.
 Verbindungsdaten Verbindung_lesen(const QString &Verbindung);
 
 /// Physical connections are kept open between uses; this closes those of one string (or all, when empty),

@@ -91,6 +91,7 @@ Leihe::~Leihe() {
 }
 
 bool Leihe::Erlaubt(const Anweisung &Sql, const char *Stelle) {
+  Mitschreiben(Dialekt_, Sql);
   QString grund;
   if (!Sql.Gueltig()) {
     grund = Sql.Fehler();

@@ -24,6 +24,7 @@ class Leihe {
   bool Lesen(const Anweisung &Sql, Ergebnis &Ziel);
   bool Beginnen();
   bool Abschliessen();
+  bool Abschluss_ungewiss() const { return Sitzung_ && Sitzung_->Abschluss_ungewiss(); }
   void Verwerfen();
   /// Observed as `Was` and `Tabelle` together: "INSERT INTO T", "UPDATE T" or "DELETE FROM T".
   Schreibstand Schreiben(const QByteArray &Sql, const std::vector<Zelle> &Werte,

@@ -33,6 +33,11 @@ QString Option_lesen(const QString &Abschnitt, const QString &Schluessel);
 QString Programmoption(const char *Schluessel);
 /// Writes through at once. False when it could not be stored.
 bool Option_schreiben(const QString &Abschnitt, const QString &Schluessel, const QString &Wert);
+/// The same where the setting still holds `Bisher`, the value read last; false when another workstation has
+/// changed it since: of several that count on one counter each gets a value of its own. True as well where
+/// the store can be neither written nor read, and keeps the value for the next write.
+bool Option_weiterstellen(const QString &Abschnitt, const QString &Schluessel, const QString &Bisher,
+                          const QString &Wert);
 
 enum class Benutzerfeld { Store = 0, MailAccount = 1, Password = 2, StorageNumber = 3 };
 /// A field of the employee; empty for an unknown employee or selector.

@@ -19,6 +19,7 @@ namespace {
 
 constexpr qsizetype Groesste_Datei = 16 * 1024 * 1024;
 constexpr int Wartezeit_ms = 5000;
+constexpr int Laengster_Wert = 255;
 
 struct Ini_Datei {
   QStringList Zeilen;
@@ -159,18 +160,9 @@ void Zeile_setzen(QStringList &Zeilen, const QString &Abschnitt, const QString &
   Zeilen << u'[' + Abschnitt.trimmed() + u']' << Neu;
 }
 
-}  // namespace
-
-QString Ini_lesen(const QString &Datei, const QString &Abschnitt, const QString &Schluessel) {
-  return Ini_Wert(Datei, Abschnitt, Schluessel, 255);
-}
-
-QString Ini_lesen_lang(const QString &Datei, const QString &Abschnitt, const QString &Schluessel) {
-  return Ini_Wert(Datei, Abschnitt, Schluessel, 1500);
-}
-
-bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString &Schluessel,
-                   const QString &Wert) {
+/// `Bisher`: what the key has to hold still; nullptr: whatever it holds.
+bool Schreiben(const QString &Datei, const QString &Abschnitt, const QString &Schluessel, const QString &Wert,
+               const QString *Bisher) {
   const QString stelle = QStringLiteral("Ini_schreiben");
   const auto verboten = [](const QString &n, QStringView zeichen) {
     return n.trimmed().isEmpty() ||
@@ -194,6 +186,7 @@ bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString
     Ablauf_melden(stelle, QStringLiteral("cannot be read: %1").arg(Datei));
     return false;
   }
+  if (Bisher && (!ini || Ini_Wert(Datei, Abschnitt, Schluessel, Laengster_Wert) != *Bisher)) return false;
   QStringList zeilen = ini ? ini->Zeilen : QStringList();
   Zeile_setzen(zeilen, Abschnitt, Schluessel, Schluessel.trimmed() + u'=' + Schreibform(Wert));
   // A dialog saves all its keys; the disk is waited for only where one has changed.
@@ -208,6 +201,26 @@ bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString
   if (neu) rechte = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
   return Datei_ersetzen(Datei, Nach_1252(zeilen.join(QLatin1String("\r\n")) + QLatin1String("\r\n")), stelle,
                         rechte);
+}
+
+}  // namespace
+
+QString Ini_lesen(const QString &Datei, const QString &Abschnitt, const QString &Schluessel) {
+  return Ini_Wert(Datei, Abschnitt, Schluessel, Laengster_Wert);
+}
+
+QString Ini_lesen_lang(const QString &Datei, const QString &Abschnitt, const QString &Schluessel) {
+  return Ini_Wert(Datei, Abschnitt, Schluessel, 1500);
+}
+
+bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString &Schluessel,
+                   const QString &Wert) {
+  return Schreiben(Datei, Abschnitt, Schluessel, Wert, nullptr);
+}
+
+bool Ini_weiterstellen(const QString &Datei, const QString &Abschnitt, const QString &Schluessel,
+                       const QString &Bisher, const QString &Wert) {
+  return Schreiben(Datei, Abschnitt, Schluessel, Wert, &Bisher);
 }
 
 }  // namespace marklink

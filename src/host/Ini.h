@@ -15,5 +15,8 @@ QString Ini_lesen_lang(const QString &Datei, const QString &Abschnitt, const QSt
 /// blanks.
 bool Ini_schreiben(const QString &Datei, const QString &Abschnitt, const QString &Schluessel,
                    const QString &Wert);
+/// The same where the key still holds `Bisher`, as Ini_lesen() gives it; false when it does not.
+bool Ini_weiterstellen(const QString &Datei, const QString &Abschnitt, const QString &Schluessel,
+                       const QString &Bisher, const QString &Wert);
 
 }  // namespace marklink

@@ -3,6 +3,7 @@
 
 #include "Datenbank.h"
 #include "Kontext.h"
+#include "Nachschlagen.h"
 #include "Texte.h"
 #include "Zahlen.h"
 
@@ -17,15 +18,15 @@ db::Recordset Land_lesen(const QString &Land, const char *Feld) {
 }  // namespace
 
 QString Adressformat_ermitteln(const QString &Wert, const QString &Spalte) {
-  const db::Recordset rs = Abfragen(
-      db::Anweisung("SELECT AddressFormat FROM Countries WHERE ", db::Name{Spalte}, " = ", db::Wert{Wert}));
-  const QString vorlage = rs.Text(QStringLiteral("AddressFormat"));
+  const QString vorlage =
+      Nachschlagen({"SELECT AddressFormat FROM Countries WHERE ", db::Name{Spalte}, " = ", db::Wert{Wert}},
+                   QStringLiteral("AddressFormat"));
   return vorlage.isEmpty() ? Kontext.gAdressformat : vorlage;
 }
 
 QString Land_aus_Token(const QString &Token) {
-  return Abfragen(db::Anweisung("SELECT Description FROM Countries WHERE Token = ", db::Wert{Token}))
-      .Text(QStringLiteral("Description"));
+  return Nachschlagen({"SELECT Description FROM Countries WHERE Token = ", db::Wert{Token}},
+                      QStringLiteral("Description"));
 }
 
 bool Land_ist_EU(const QString &Land) { return Land_lesen(Land, "EU").Flag(QStringLiteral("EU")); }

@@ -53,4 +53,15 @@ bool Option_schreiben(const QString &Abschnitt, const QString &Schluessel, const
   return gespeichert;
 }
 
+bool Option_weiterstellen(const QString &Abschnitt, const QString &Schluessel, const QString &Bisher,
+                          const QString &Wert) {
+  if (Kontext.gDatabasetype == 0)
+    return Ini_weiterstellen(Kontext.gAfkDatei, Abschnitt, Schluessel, Bisher, Wert);
+  // The batch writes only over what the cache holds, and reads it anew. Where neither can be done the value
+  // stays pending in the cache: nobody else has changed it, as far as is known.
+  return Option_lesen(Abschnitt, Schluessel) == Bisher &&
+         (Option_schreiben(Abschnitt, Schluessel, Wert) ||
+          (Einstellung_suchen(Abschnitt, Schluessel) && gOptions_Recordset.IsPending()));
+}
+
 }  // namespace marklink

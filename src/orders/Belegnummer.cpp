@@ -38,14 +38,11 @@ std::optional<QString> Freie_Nummer(const Belegart &Art, Naechste naechste) {
   return QString();
 }
 
-QString Naechste_Nummer(const Belegart &Art) {
-  return Nummer_ziehen(Art.Tabelle, Art.Schluesselfeld, Art.Nummernkreis);
-}
-
 /// Asks until the number is free or nothing was entered.
 std::optional<QString> Nummer_erfragen(const Belegart &Art) {
   return Freie_Nummer(Art, [&Art](const QString &Vergeben) {
-    const QString vorschlag = Vergeben.isNull() ? Naechste_Nummer(Art) : Vergeben;
+    const QString vorschlag =
+        Vergeben.isNull() ? Nummer_ziehen(Art.Tabelle, Art.Schluesselfeld, Art.Nummernkreis) : Vergeben;
     if (vorschlag.isNull()) return QString();
     const Fortschritt_verdeckt pause;
     const QString eingabe =
@@ -60,11 +57,9 @@ std::optional<QString> Belegnummer_vergeben(const Belegart &Art) {
   if (Option_lesen(QStringLiteral("Counting"), Art.Nummernkreis) != QLatin1String("1"))
     return Nummer_erfragen(Art);
   return Freie_Nummer(Art, [&Art](const QString &Vergeben) {
-    const QString nummer = Naechste_Nummer(Art);
+    const QString nummer = Nummer_nehmen(Art.Tabelle, Art.Schluesselfeld, Art.Nummernkreis);
     const bool steht = !Vergeben.isNull() && nummer == Vergeben;
-    if (nummer.isEmpty() || steht) return QString();
-    Nummernkreis_hochzaehlen(Art.Nummernkreis);
-    return nummer;
+    return nummer.isEmpty() || steht ? QString() : nummer;
   });
 }
 

@@ -9,6 +9,7 @@
 #include "host/Datenbank.h"
 #include "host/Datumsbilder.h"
 #include "host/Kontext.h"
+#include "host/Nachschlagen.h"
 #include "host/Uhr.h"
 #include "host/Zahlen.h"
 #include "rules/Versandkosten.h"
@@ -18,6 +19,9 @@
 namespace marklink {
 
 namespace {
+
+constexpr int Auf_einmal = 50;          ///< orders whose rows are read together
+constexpr int Versuche_hoechstens = 3;  ///< to read rows, one after the other in vain
 
 /// A column that takes a node's text as it stands.
 struct Textspalte {
@@ -111,26 +115,67 @@ void Keine_Liste_melden(const pugi::xml_document &Dokument) {
                     (meldung.isEmpty() ? QString() : QStringLiteral(": ") + meldung));
 }
 
-/// Writes one order into its row, or into a new one, and saves it. What cannot be saved is dropped from the
-/// set, so that it does not come back with every order behind it.
-bool Bestellung_ablegen(db::Recordset &Satz, const QString &Bestellnummer, const pugi::xml_node &OrderInfo) {
-  Satz.ClearFilter();
-  // With a failed filter the set would stand on the row of another order.
-  if (!Satz.Filter({"OrderID = ", db::Wert{Bestellnummer}})) {
-    Auslassung_melden(Bestellnummer, QStringLiteral("its row cannot be looked up"));
-    return false;
+/// The staged rows of some orders: a server that is asked for each one by one takes its time.
+struct Ausschnitt {
+  db::Recordset Satz;
+  QStringList Nummern;
+  int Gescheitert = 0;  ///< reads in a row
+
+  bool Lesen(const QStringList &Neue) {
+    // A table that cannot be read now is not waited for with every order that is left.
+    if (Neue.isEmpty() || Gescheitert >= Versuche_hoechstens) return false;
+    Nummern = Neue;
+    Satz = Abfragen({"SELECT * FROM WebshopOrdersXTC WHERE OrderID IN (", db::Werteliste{Neue}, ")"});
+    Gescheitert = Satz.IsOpen() ? 0 : Gescheitert + 1;
+    return Satz.IsOpen();
   }
-  if (Satz.RecordCount() == 0) Satz.AddNew();
-  Bestellung_schreiben(Satz, OrderInfo);
-  Satz.Update();
-  if (Satz.UpdateBatch()) return true;
+  /// Whether a row that is not here is not there either; reads it where that is open.
+  bool Umfasst(const QString &Nummer) {
+    return (Satz.IsOpen() && Nummern.contains(Nummer)) || (Nachschlagbar(Nummer) && Lesen({Nummer}));
+  }
+  /// A number with an apostrophe is in no statement.
+  static bool Nachschlagbar(const QString &Nummer) { return !Nummer.isEmpty() && !Nummer.contains(u'\''); }
+};
+
+/// The numbers of the next orders, those that can be looked up.
+QStringList Naechste_Nummern(pugi::xml_node OrderInfo, int Anzahl) {
+  QStringList nummern;
+  for (; OrderInfo && Anzahl > 0; OrderInfo = OrderInfo.next_sibling("ORDER_INFO"), --Anzahl) {
+    const QString nummer = Knoten_Text(OrderInfo, "ORDER_HEADER/ORDER_ID");
+    if (Ausschnitt::Nachschlagbar(nummer)) nummern << nummer;
+  }
+  return nummern;
+}
+
+/// Writes one order into its row, or into a new one, and saves it; once more where another workstation has
+/// staged or changed it at that very moment. What cannot be saved is dropped from the set, so that it does
+/// not come back with every order behind it.
+bool Bestellung_ablegen(db::Recordset &Satz, const QString &Bestellnummer, const pugi::xml_node &OrderInfo) {
+  bool war_neu = false;
+  for (int versuch = 0; versuch < 2; ++versuch) {
+    Satz.ClearFilter();
+    // With a failed filter the set would stand on the row of another order.
+    if (!Satz.Filter({"OrderID = ", db::Wert{Bestellnummer}})) {
+      Auslassung_melden(Bestellnummer, QStringLiteral("its row cannot be looked up"));
+      return false;
+    }
+    const bool neu = Satz.RecordCount() == 0;
+    if (neu && war_neu) break;  // refused, but not for a row of somebody else
+    if (neu) Satz.AddNew();
+    Bestellung_schreiben(Satz, OrderInfo);
+    Satz.Update();
+    if (Satz.UpdateBatch()) return true;
+    war_neu = neu;
+    if (Satz.Requery()) continue;
+    Satz = db::Recordset();
+    break;
+  }
   Auslassung_melden(Bestellnummer, QStringLiteral("its row cannot be saved"));
-  if (!Satz.Requery()) Satz = db::Recordset();  // closed: an unread set would take every order for a new one
   return false;
 }
 
 /// False when the order was not saved.
-bool Bestellknoten_einlesen(db::Recordset &Satz, const pugi::xml_node &OrderInfo) {
+bool Bestellknoten_einlesen(Ausschnitt &Zeilen, const pugi::xml_node &OrderInfo) {
   const pugi::xml_node knoten = OrderInfo.child("ORDER_HEADER").child("ORDER_ID");
   if (!knoten) return false;
   const QString nummer = Knoten_Text(knoten, "");
@@ -140,11 +185,11 @@ bool Bestellknoten_einlesen(db::Recordset &Satz, const pugi::xml_node &OrderInfo
     Auslassung_melden(nummer, QStringLiteral("it has no number"));
     return false;
   }
-  if (!Satz.IsOpen()) {
-    Auslassung_melden(nummer, QStringLiteral("the staging table cannot be opened"));
+  if (!Zeilen.Umfasst(nummer)) {
+    Auslassung_melden(nummer, QStringLiteral("its row cannot be read"));
     return false;
   }
-  return Bestellung_ablegen(Satz, nummer, OrderInfo);
+  return Bestellung_ablegen(Zeilen.Satz, nummer, OrderInfo);
 }
 
 }  // namespace
@@ -165,7 +210,8 @@ bool Bestellungen_einlesen(const QString &Antwortdatei, Auftragsliste &Liste) {
   {
     pugi::xml_document dokument;
     Antwort_laden(Antwortdatei, dokument);
-    db::Recordset satz = Abfragen("SELECT * FROM WebshopOrdersXTC");
+    Ausschnitt zeilen;
+    const Nachschlagelauf lauf;
     Kontext.gLaeuft = true;
     if (dokument.child("ORDER").empty()) Keine_Liste_melden(dokument);
     const auto bestellungen = dokument.child("ORDER").children("ORDER_INFO");
@@ -173,7 +219,8 @@ bool Bestellungen_einlesen(const QString &Antwortdatei, Auftragsliste &Liste) {
                                    static_cast<int>(std::distance(bestellungen.begin(), bestellungen.end())));
     int erledigt = 0, gespeichert = 0;
     for (const pugi::xml_node &bestellung : bestellungen) {
-      if (Bestellknoten_einlesen(satz, bestellung)) ++gespeichert;
+      if (erledigt % Auf_einmal == 0) zeilen.Lesen(Naechste_Nummern(bestellung, Auf_einmal));
+      if (Bestellknoten_einlesen(zeilen, bestellung)) ++gespeichert;
       fortschritt().Wert(++erledigt);
       if (Kontext.gAbbrechen) break;
     }

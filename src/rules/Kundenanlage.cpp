@@ -23,21 +23,22 @@ QString Kundennummer_bestimmen(const pugi::xml_node &Kunde) {
   const bool eigene =
       Option_lesen(QStringLiteral("Marklink"), QStringLiteral("UseShopCustomerNumber")) == u"0";
   if (!eigene && !nummer_im_shop.isEmpty()) return nummer_im_shop;
-  const QString bereich = QStringLiteral("Customer");
-  QString nummer = Nummer_ziehen(QStringLiteral("Contacts"), QStringLiteral("CustomerNumber"), bereich);
-  if (nummer.isEmpty()) return {};
-  Nummernkreis_hochzaehlen(bereich);
-  return nummer;
+  return Nummer_nehmen(QStringLiteral("Contacts"), QStringLiteral("CustomerNumber"),
+                       QStringLiteral("Customer"));
 }
 
-/// The debtor account at hand; its counter then moves by one, without padding.
+/// The debtor account at hand; its counter then moves by one, without padding. Each workstation gets another.
 QString Debitorenkonto_nehmen() {
   const QString abschnitt = QStringLiteral("DATEV"), schluessel = QStringLiteral("DebitorAccount");
-  QString konto = Option_lesen(abschnitt, schluessel);
-  // A counter that is no number stays, like that of a number range: no accounts are made up.
-  if (const auto zahl = Zahl_deutsch(konto))
-    Option_schreiben(abschnitt, schluessel, Zahl_als_Text(*zahl + 1));
-  return konto;
+  for (int versuche = 100;; --versuche) {
+    QString konto = Option_lesen(abschnitt, schluessel);
+    // A counter that is no number stays, like that of a number range: no accounts are made up.
+    const auto zahl = Zahl_deutsch(konto);
+    if (!zahl || versuche == 0 ||
+        Option_weiterstellen(abschnitt, schluessel, konto, Zahl_als_Text(*zahl + 1)) ||
+        Option_lesen(abschnitt, schluessel) == konto)
+      return konto;
+  }
 }
 
 /// Nothing when the user gives none.

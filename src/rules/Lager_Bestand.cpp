@@ -14,8 +14,9 @@
 namespace marklink {
 namespace {
 
-/// The totals of one article into its row.
-void Bestand_summieren(db::Recordset &Artikel, const QString &Nummer, const QString &Lager) {
+/// The totals of one article into its row. `Gelesen` takes those that stood there.
+void Bestand_summieren(db::Recordset &Artikel, const QString &Nummer, const QString &Lager,
+                       QStringList &Gelesen) {
   const QString reserviert = QStringLiteral("Unsociable"), frei = QStringLiteral("Disposable");
   db::Anweisung sql("SELECT * FROM Warehouse WHERE ArticleNumber = ", db::Wert{Nummer});
   if (!Lager.isEmpty()) sql += db::Anweisung(" AND StorageNumber = ", db::Wert{Lager});
@@ -27,9 +28,21 @@ void Bestand_summieren(db::Recordset &Artikel, const QString &Nummer, const QStr
     summe_reserviert = Menge_summe(summe_reserviert, lager.Number(reserviert));
     summe_frei = Menge_summe(summe_frei, lager.Number(frei));
   }
+  for (const QString &feld : {reserviert, frei}) Gelesen << QString::number(Artikel.Number(feld), 'g', 17);
   Artikel.SetValue(reserviert, summe_reserviert);
   Artikel.SetValue(frei, summe_frei);
   Artikel.Update();
+}
+
+/// The articles of these lines, each once and in the order of their numbers: so two workstations do not wait
+/// for each other.
+QStringList Artikel_ordnen(db::Recordset Positionen) {
+  QStringList nummern;
+  for (; !Positionen.IsEOF(); Positionen.MoveNext())
+    nummern << Positionen.Text(QStringLiteral("ArticleNumber"));
+  nummern.removeDuplicates();
+  nummern.sort();
+  return nummern;
 }
 
 }  // namespace
@@ -40,16 +53,14 @@ db::Recordset Positionen_lesen(const QString &Beleg, const QString &Belegnummer)
 }
 
 void Artikelbestand_aktualisieren(const QString &Beleg, const QString &Belegnummer, const QString &Lager) {
-  // Once more where somebody else changed a total between reading and writing.
-  for (int versuch = 0; versuch < 2; ++versuch) {
+  // Again where somebody else changed a total between reading and writing.
+  QStringList gelesen;
+  for (Versuche versuche; versuche.Noch_einer(gelesen);) {
+    gelesen.clear();
     db::Recordset artikel = Abfragen("SELECT * FROM Articles");
-    QSet<QString> erledigte;
-    for (db::Recordset p = Positionen_lesen(Beleg, Belegnummer); !p.IsEOF(); p.MoveNext()) {
-      const QString nummer = p.Text(QStringLiteral("ArticleNumber"));
-      if (erledigte.contains(nummer)) continue;
-      erledigte.insert(nummer);
+    for (const QString &nummer : Artikel_ordnen(Positionen_lesen(Beleg, Belegnummer))) {
       if (artikel.Filter({"ArticleNumber = ", db::Wert{nummer}}) && artikel.RecordCount() > 0)
-        Bestand_summieren(artikel, nummer, Lager);
+        Bestand_summieren(artikel, nummer, Lager, gelesen);
       else
         Ablauf_melden(QStringLiteral("Artikelbestand_aktualisieren"), QStringLiteral("no article ") + nummer);
     }

@@ -14,27 +14,62 @@ namespace marklink {
 namespace {
 
 struct Buchungsstand {
-  QSet<QString> Offen;  ///< lots that were not saved
+  QSet<QString> Offen;       ///< lots that were not saved
+  QSet<QString> Fehlende{};  ///< lots that are gone
+  QStringList Gelesen{};     ///< figures of the others before they were changed
   bool Bekannt = true;  ///< false: what became of them cannot be read, so another try could book them twice
 };
 
-/// One batch for those lots.
+/// Whether a batch left the lot as it was. Where a table has no key, a row that somebody else changed stands
+/// beside the pending one.
+bool Offen_geblieben(db::Recordset &Lager, const QString &Los) {
+  if (!Los_suchen(Lager, Los)) return true;
+  while (!Lager.IsEOF() && !Lager.IsPending()) Lager.MoveNext();
+  return !Lager.IsEOF();
+}
+
+/// The figures of the current lot.
+QString Losfiguren(const db::Recordset &Lager) {
+  QStringList figuren;
+  for (const char *feld : {"Quantity", "Disposable", "Unsociable"})
+    figuren << QString::number(Lager.Number(QLatin1String(feld)), 'g', 17);
+  return figuren.join(u'|');
+}
+
+/// When nobody knows whether a batch was written: it was where a lot holds what was sent.
+bool Angekommen(const QString &Los, const QString &Gesendet, bool &Bekannt) {
+  db::Recordset lager = Abfragen("SELECT * FROM Warehouse");
+  const bool da = Los_suchen(lager, Los);
+  Bekannt &= lager.IsOpen();
+  return da && Losfiguren(lager) == Gesendet;
+}
+
+/// One batch for those lots, in the order of their numbers: so two workstations do not wait for each other.
 Buchungsstand Einmal_buchen(const Losmengen &Mengen, const QSet<QString> &Lose, Losaenderung Aendern) {
   db::Recordset lager = Abfragen("SELECT * FROM Warehouse");
   Buchungsstand stand;
-  for (const QString &los : Lose) {
+  QMap<QString, QString> gesendete;
+  for (auto menge = Mengen.cbegin(); menge != Mengen.cend(); ++menge) {
+    const QString &los = menge.key();
+    if (!Lose.contains(los)) continue;
     if (!Los_suchen(lager, los)) {
-      stand.Offen.insert(los);
+      stand.Fehlende.insert(los);
       continue;
     }
-    Aendern(lager, Mengen.value(los));
+    stand.Gelesen << Losfiguren(lager);
+    Aendern(lager, *menge);
     lager.Update();
+    gesendete.insert(los, Losfiguren(lager));
   }
   if (!lager.IsOpen()) return {Lose};
   if (Speichern(lager)) return stand;
-  for (const QString &los : Lose)
-    if (!Los_suchen(lager, los) || lager.IsPending()) stand.Offen.insert(los);
-  stand.Bekannt = lager.IsOpen();
+  const bool ungewiss = lager.IsUncertain();
+  for (auto los = gesendete.cbegin(); los != gesendete.cend(); ++los) {
+    const bool offen =
+        ungewiss ? !Angekommen(los.key(), *los, stand.Bekannt) : Offen_geblieben(lager, los.key());
+    if (offen) stand.Offen.insert(los.key());
+  }
+  stand.Bekannt &= lager.IsOpen();
   return stand;
 }
 
@@ -115,11 +150,15 @@ bool Speichern(db::Recordset &Satz) {
 QSet<QString> Lose_buchen(const Losmengen &Mengen, Losaenderung Aendern) {
   Buchungsstand stand{QSet<QString>(Mengen.keyBegin(), Mengen.keyEnd())};
   // Again for lots that somebody else changed between reading and writing.
-  for (int versuch = 0; versuch < 2 && stand.Bekannt && !stand.Offen.isEmpty(); ++versuch)
+  QSet<QString> fehlende;
+  for (Versuche versuche; stand.Bekannt && !stand.Offen.isEmpty() && versuche.Noch_einer(stand.Gelesen);) {
     stand = Einmal_buchen(Mengen, stand.Offen, Aendern);
-  for (const QString &los : std::as_const(stand.Offen))
+    fehlende += stand.Fehlende;
+  }
+  const QSet<QString> gescheitert = stand.Offen + fehlende;
+  for (const QString &los : gescheitert)
     Ablauf_melden(QStringLiteral("stock"), QStringLiteral("lot not booked: ") + los);
-  return stand.Offen;
+  return gescheitert;
 }
 
 void Reservierungen_buchen(const QString &Beleg, const QString &Belegnummer,

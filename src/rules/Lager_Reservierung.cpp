@@ -98,11 +98,9 @@ QString Reservierungslauf::Los_vormerken(const Los &L) {
 /// Reservations of this run are not stored yet, so a range that stands still would give their numbers again.
 QString Reservierungslauf::Neue_Nummer() {
   if (!Gezaehlt_) return generateGUID();
-  const QString bereich = QStringLiteral("Reservation");
-  QString nummer =
-      Nummer_ziehen(QStringLiteral("Reservations"), QStringLiteral("ReservationNumber"), bereich);
+  QString nummer = Nummer_nehmen(QStringLiteral("Reservations"), QStringLiteral("ReservationNumber"),
+                                 QStringLiteral("Reservation"));
   if (nummer.isEmpty() || Vergebene_.contains(nummer)) return {};
-  Nummernkreis_hochzaehlen(bereich);
   Vergebene_.insert(nummer);
   return nummer;
 }

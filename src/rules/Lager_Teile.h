@@ -1,8 +1,10 @@
 // Private to the stock booking: what its files share.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMap>
 #include <QSet>
+#include <QStringList>
 
 #include "db/Recordset.h"
 
@@ -25,7 +27,28 @@ using Losmengen = QMap<QString, double>;
 /// Changes the figures of the current lot by a quantity.
 using Losaenderung = void (*)(db::Recordset &Lager, double Menge);
 /// Reads, changes and saves the lots as one batch. One that somebody else changed at that very moment is read
-/// and changed once more. Gives the lots that were not saved.
+/// and changed again. Gives the lots that were not saved.
 QSet<QString> Lose_buchen(const Losmengen &Mengen, Losaenderung Aendern);
+
+/// Counts the tries to write what other workstations change as well. Each that fails has let another one
+/// through, so there are many; but only two where the second has found what the first did, or where they take
+/// long: then a row is refused for another reason, or a lock is waited for.
+class Versuche {
+ public:
+  Versuche() { Uhr_.start(); }
+  /// `Gelesen`: the figures that the last try was about to change.
+  bool Noch_einer(const QStringList &Gelesen) {
+    constexpr int Hoechstens = 100, Geduld_ms = 3000;
+    const bool dasselbe = Gelesen == Vorher_;
+    Vorher_ = Gelesen;
+    ++Zahl_;
+    return Zahl_ <= 2 || (Zahl_ <= Hoechstens && !dasselbe && !Uhr_.hasExpired(Geduld_ms));
+  }
+
+ private:
+  QElapsedTimer Uhr_;
+  QStringList Vorher_;
+  int Zahl_ = 0;
+};
 
 }  // namespace marklink

@@ -54,13 +54,40 @@ QString Nummer_bilden(const QString &Bereich, const QString &Zaehler) {
   return nummer;
 }
 
-/// Nothing is written where the counter stays as it is.
-void Zaehler_weiterstellen(const QString &Bereich) {
-  const QString alt = Zaehler_lesen(Bereich), neu = Zaehler_erhoehen(alt);
-  if (neu != alt)
-    Option_schreiben(QStringLiteral("NumberRange"), Bereich, neu);
-  else if (Ablaufverfolgung_an())
-    Ablauf_melden(QStringLiteral("number range"), Bereich + QStringLiteral(": counter cannot move: ") + alt);
+/// Nothing is written where the counter stays as it is. False when another workstation has moved it since
+/// `Alt` was read.
+bool Zaehler_weiterstellen(const QString &Bereich, const QString &Alt) {
+  const QString neu = Zaehler_erhoehen(Alt);
+  if (neu != Alt)
+    return Option_weiterstellen(QStringLiteral("NumberRange"), Bereich, Alt, neu) ||
+           Zaehler_lesen(Bereich) == Alt;
+  if (Ablaufverfolgung_an())
+    Ablauf_melden(QStringLiteral("number range"), Bereich + QStringLiteral(": counter cannot move: ") + Alt);
+  return true;
+}
+
+struct Ziehung {
+  QString Nummer;   ///< null: none
+  QString Zaehler;  ///< that it was made of
+};
+
+Ziehung Ziehen(const QString &Tabelle, const QString &Feld, const QString &Bereich) {
+  Ziehungsaufsicht aufsicht(Bereich);
+  for (;;) {
+    const QString zaehler = Zaehler_lesen(Bereich);
+    const QString nummer = Nummer_bilden(Bereich, zaehler);
+    if (!Nummer_vorhanden(Tabelle, Feld, nummer)) return {nummer, zaehler};
+    if (!aufsicht.Weiter(nummer)) break;
+    // Whatever the range's switch for counting says; this is intended.
+    Zaehler_weiterstellen(Bereich, zaehler);
+  }
+  Ablauf_melden(QStringLiteral("number range"), Bereich + QStringLiteral(": ended without a number"));
+  return {};
+}
+
+/// Whether counting is switched off for the range.
+bool Zaehlt_nicht(const QString &Bereich) {
+  return Option_lesen(QStringLiteral("Counting"), Bereich) == u"0";
 }
 
 Nummernkreis Kreis(const char *Name, const char *Tabelle, const char *Feld) {
@@ -101,21 +128,22 @@ bool Nummer_vorhanden(const QString &Tabelle, const QString &Feld, const QString
 }
 
 QString Nummer_ziehen(const QString &Tabelle, const QString &Feld, const QString &Bereich) {
-  Ziehungsaufsicht aufsicht(Bereich);
-  for (;;) {
-    QString nummer = Belegnummer_formatieren(Bereich);
-    if (!Nummer_vorhanden(Tabelle, Feld, nummer)) return nummer;
-    if (!aufsicht.Weiter(nummer)) break;
-    // Whatever the range's switch for counting says; this is intended.
-    Zaehler_weiterstellen(Bereich);
-  }
-  Ablauf_melden(QStringLiteral("number range"), Bereich + QStringLiteral(": ended without a number"));
-  return {};
+  return Ziehen(Tabelle, Feld, Bereich).Nummer;
 }
 
 void Nummernkreis_hochzaehlen(const QString &Bereich) {
-  if (Option_lesen(QStringLiteral("Counting"), Bereich) == u"0") return;
-  Zaehler_weiterstellen(Bereich);
+  if (!Zaehlt_nicht(Bereich)) Zaehler_weiterstellen(Bereich, Zaehler_lesen(Bereich));
+}
+
+QString Nummer_nehmen(const QString &Tabelle, const QString &Feld, const QString &Bereich,
+                      Leere_Nummer Leere) {
+  // A bound, since settings that can neither be written nor read look like another workstation's.
+  for (int versuche = 100;; --versuche) {
+    const Ziehung z = Ziehen(Tabelle, Feld, Bereich);
+    const bool unbrauchbar = Leere == Leere_Nummer::Zaehlt ? z.Nummer.isNull() : z.Nummer.isEmpty();
+    if (unbrauchbar || Zaehlt_nicht(Bereich) || Zaehler_weiterstellen(Bereich, z.Zaehler) || versuche == 0)
+      return z.Nummer;
+  }
 }
 
 Nummernvorschau Nummer_vorausschauen(const QString &Tabelle, const QString &Feld, const QString &Bereich) {

@@ -2,8 +2,9 @@
 //
 // A range is a counter and a format in the settings store. Drawing is two steps: Nummer_ziehen() gives the
 // number, and once it is to be used Nummernkreis_hochzaehlen() moves the counter. So the counter holds the
-// number that the next document will show, not the last one used. No lock is held in between: two
-// workstations can draw the same number, and only rows that are stored already are seen.
+// number that the next document will show, not the last one used. No lock is held in between, and only rows
+// that are stored already are seen: who draws only can get the number of another workstation. Whoever uses
+// what it draws takes it by Nummer_nehmen(), which gives a number that is counted to one workstation only.
 #pragma once
 
 #include <QString>
@@ -36,6 +37,13 @@ QString Nummer_ziehen(const QString &Tabelle, const QString &Feld, const QString
 
 /// Moves the counter by one, unless counting is switched off for the range ("0").
 void Nummernkreis_hochzaehlen(const QString &Bereich);
+
+/// Both at once: draws a number and moves the counter, and draws again where another workstation has moved it
+/// in the meantime. With counting switched off two workstations can still get the same one. A number that
+/// could not be drawn (null) is not counted; an empty one, of a range without a format, as is said.
+enum class Leere_Nummer { Zaehlt_nicht, Zaehlt };
+QString Nummer_nehmen(const QString &Tabelle, const QString &Feld, const QString &Bereich,
+                      Leere_Nummer Leere = Leere_Nummer::Zaehlt_nicht);
 
 struct Nummernvorschau {
   QString Nummer;

@@ -109,11 +109,9 @@ void Bezahlt_setzen(db::Recordset &rs, bool Bezahlt) {
 /// False when no number could be drawn: nothing is added then.
 bool Posten_anlegen(db::Recordset &Posten, const Postenwerte &Werte, const QString &Nummer,
                     const QString &Belegwort) {
-  const QString kreis = QStringLiteral("OpenItem");
-  const QString postennummer =
-      Nummer_ziehen(QStringLiteral("OpenItems"), QStringLiteral("OpenItemNumber"), kreis);
+  const QString postennummer = Nummer_nehmen(QStringLiteral("OpenItems"), QStringLiteral("OpenItemNumber"),
+                                             QStringLiteral("OpenItem"), Leere_Nummer::Zaehlt);
   if (postennummer.isNull()) return false;
-  Nummernkreis_hochzaehlen(kreis);
   Posten.AddNew();
   Posten.SetValue(QStringLiteral("OpenItemNumber"), postennummer);
   Posten.SetValue(QStringLiteral("DocumentNumber"), Nummer);

@@ -8,6 +8,7 @@
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
 #include "host/Laender.h"
+#include "host/Nachschlagen.h"
 #include "host/Zahlen.h"
 #include "ui/Dialoge.h"
 
@@ -66,8 +67,8 @@ void Gewicht_summieren(double &Netto, double &Brutto, const QString &Beleg, cons
 }
 
 QString Versandart_aus_Token(const QString &Token) {
-  return Abfragen({"SELECT Description FROM ForwardingCharges WHERE Token = ", db::Wert{Token}})
-      .Text(QStringLiteral("Description"));
+  return Nachschlagen({"SELECT Description FROM ForwardingCharges WHERE Token = ", db::Wert{Token}},
+                      QStringLiteral("Description"));
 }
 
 void Versandfreigrenze_ermitteln(const QString &Land) {

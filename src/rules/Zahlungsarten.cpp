@@ -1,6 +1,7 @@
 // What the books say of payment methods and terms.
 #include "Zahlungsverkehr.h"
 #include "host/Datenbank.h"
+#include "host/Nachschlagen.h"
 
 namespace marklink {
 namespace {
@@ -18,8 +19,8 @@ bool Zahlart_Schalter(const char *Feld, const QString &Zahlart) {
 }  // namespace
 
 QString Zahlart_Bezeichnung(const QString &Token) {
-  return Abfragen({"SELECT Description FROM MethodPayments WHERE Token = ", db::Wert{Token}})
-      .Text(QStringLiteral("Description"));
+  return Nachschlagen({"SELECT Description FROM MethodPayments WHERE Token = ", db::Wert{Token}},
+                      QStringLiteral("Description"));
 }
 
 bool Zahlart_Lastschrift(const QString &Zahlart) { return Zahlart_Schalter("DebitAdvice", Zahlart); }

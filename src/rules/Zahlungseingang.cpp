@@ -55,10 +55,8 @@ Zahlungseingang Zahlung_berechnen(const Zahlungsangaben &A, const db::Recordset 
 
 /// A null text when no number could be drawn.
 QString Neue_Zahlungsnummer() {
-  const QString kreis = QStringLiteral("Payment");
-  QString nummer = Nummer_ziehen(QStringLiteral("PaymentIncome"), QStringLiteral("PaymentNumber"), kreis);
-  if (!nummer.isNull()) Nummernkreis_hochzaehlen(kreis);
-  return nummer;
+  return Nummer_nehmen(QStringLiteral("PaymentIncome"), QStringLiteral("PaymentNumber"),
+                       QStringLiteral("Payment"), Leere_Nummer::Zaehlt);
 }
 
 /// The invoice shows what all its payments took as cash discount.

@@ -29,7 +29,8 @@ inline std::vector<db::Tabelle> Testtabellen() {
        {{"OrderID"}}},
       {"Options",
        {{"Section", Spaltentyp::Text, 50}, {"Key", Spaltentyp::Text, 50}, {"Value", Spaltentyp::Memo}},
-       {}},
+       {},
+       {{"Section"}}},
   };
 }
 

@@ -312,15 +312,37 @@ TEST_P(Bestelleinlesung, Eine_abgelehnte_Zeile_haelt_die_anderen_nicht_auf) {
 }
 
 TEST_P(Bestelleinlesung, Beschaedigte_Datenbank_zeigt_nichts_und_stuerzt_nicht) {
-  db::Verbindungen_schliessen();
-  QFile datei(Mandant.Datenbankdatei());
-  ASSERT_TRUE(datei.open(QIODevice::ReadWrite));
-  datei.write(QByteArray(4096, 'x'));
-  datei.close();
+  Mandant.Buecher_zerstoeren();
   Einlesen({Bestellung(u"1"_qs)});
   EXPECT_EQ(Liste.Zeilenzahl(), 0);
   EXPECT_FALSE(Bestellungen_loeschen());
   EXPECT_EQ(Positionen_der_Bestellung(u"1"_qs), QString());
+}
+
+// A row is looked up, sent and committed; payment, shipping and country are asked once each.
+TEST_P(Bestelleinlesung, Tausend_Bestellungen_kosten_hoechstens_drei_Umlaeufe_je_Zeile) {
+  if (!Mandant.Server()) GTEST_SKIP() << "only a server has round trips";
+  constexpr int Anzahl = 1000;
+  const auto umlaeufe = [&](const QString &Status) {
+    QStringList alle;
+    for (int i = 1; i <= Anzahl; ++i)
+      alle << Bestellung(QString::number(i), {{u"ORDER_STATUS"_qs, Status},
+                                              {u"PAYMENT_METHOD"_qs, i % 2 ? u"banktransfer"_qs : u"neu"_qs},
+                                              {u"COUNTRY"_qs, i % 3 ? u"DE"_qs : u"AT"_qs}});
+    Mandant.Server()->Stellen("anfragen", 0);
+    Einlesen(alle);
+    return Mandant.Server()->Zahl("anfragen");
+  };
+  const auto zeilen = [](const QString &Status) {
+    return Abfragen({"SELECT OrderID FROM WebshopOrdersXTC WHERE Status = ", db::Wert{Status}}).RecordCount();
+  };
+  const int neu = umlaeufe(u"1"_qs);
+  EXPECT_LE(neu, 3 * zeilen(u"1"_qs)) << "all are new";
+  const int gleich = umlaeufe(u"1"_qs);
+  EXPECT_LE(gleich, Anzahl + 30) << "nothing is new";
+  const int geaendert = umlaeufe(u"2"_qs);
+  EXPECT_LE(geaendert, 3 * zeilen(u"2"_qs)) << "all have another status";
+  std::printf("%d orders: %d round trips new, %d unchanged, %d changed\n", Anzahl, neu, gleich, geaendert);
 }
 
 TEST_P(Bestelleinlesung, Loeschen_leert_die_Tabelle) {

@@ -4,10 +4,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QThread>
 
 #include "db/Zeitpunkt.h"
 #include "host/Datenbank.h"
 #include "host/Kontext.h"
+#include "host/Zeichensatz.h"
 
 namespace marklink::test {
 namespace {
@@ -27,8 +29,20 @@ Shop_Antwort Kundenantwort(const QByteArray &Kopf) {
               .toUtf8()};
 }
 
+/// Through the engine, since a server keeps the file open.
+void Datenbank_kopieren(const QString &Von, const QString &Nach) {
+  sqlite3 *von = nullptr, *nach = nullptr;
+  sqlite3_open(QFile::encodeName(Von).constData(), &von);
+  sqlite3_open(QFile::encodeName(Nach).constData(), &nach);
+  sqlite3_backup *kopie = sqlite3_backup_init(nach, "main", von, "main");
+  EXPECT_EQ(sqlite3_backup_step(kopie, -1), SQLITE_DONE) << sqlite3_errmsg(nach);
+  sqlite3_backup_finish(kopie);
+  sqlite3_close(von);
+  sqlite3_close(nach);
+}
+
 void Ersetzen(const QString &Von, const QString &Nach) {
-  for (const char *anhang : {"", "-wal", "-shm"}) QFile::remove(Nach + QLatin1String(anhang));
+  QFile::remove(Nach);
   ASSERT_TRUE(QFile::copy(Von, Nach));
 }
 
@@ -150,17 +164,34 @@ void Stapelmandant::Bestellung(int Nummer, const QString &Zahlungsart,
                   positionen.join(QChar(0xD7))});
 }
 
+void Stapelmandant::Shop_einrichten(const QStringList &Bestellungen) {
+  const QByteArray antwort = "<?xml version=\"1.0\" encoding=\"windows-1252\"?><ORDER>" +
+                             Nach_1252(Bestellungen.join(QString())) + "</ORDER>";
+  Shop_.Skript_setzen([antwort](const QByteArray &kopf) {
+    return kopf.contains("get_orders") ? Shop_Antwort{antwort} : Kundenantwort(kopf);
+  });
+  Einstellen("Marklink", "hostname", "127.0.0.1");
+  Einstellen("Marklink", "port", QByteArray::number(Shop_.Port()).constData());
+  Einstellen("Marklink", "folder", "/shop/");
+  Einstellen("Marklink", "username", "u");
+}
+
 QString Stapelmandant::Einstellungsdatei() const { return Kontext.gAfkDatei; }
 
+void Stapelmandant::Verlassen() const {
+  db::Verbindungen_schliessen();
+  while (Mandant_.Server() && Mandant_.Server()->Zahl("verbindungen") > 0) QThread::msleep(2);
+}
+
 void Stapelmandant::Sichern() {
-  db::Verbindungen_schliessen();  // moves the log into the file
-  Ersetzen(Mandant_.Datenbankdatei(), Sicherung(Mandant_.Datenbankdatei()));
+  Verlassen();
+  Datenbank_kopieren(Mandant_.Datenbankdatei(), Sicherung(Mandant_.Datenbankdatei()));
   if (!Einstellungsdatei().isEmpty()) Ersetzen(Einstellungsdatei(), Sicherung(Einstellungsdatei()));
 }
 
 void Stapelmandant::Zuruecksetzen() {
-  db::Verbindungen_schliessen();
-  Ersetzen(Sicherung(Mandant_.Datenbankdatei()), Mandant_.Datenbankdatei());
+  Verlassen();
+  Datenbank_kopieren(Sicherung(Mandant_.Datenbankdatei()), Mandant_.Datenbankdatei());
   if (!Einstellungsdatei().isEmpty()) Ersetzen(Sicherung(Einstellungsdatei()), Einstellungsdatei());
   Starten();
 }

@@ -23,8 +23,13 @@ class Stapelmandant {
   void Artikel(int Shopnummer, const QString &Artikelart, const std::map<QString, double> &Lose);
   /// An order of a customer of its own, whom the shop knows and the books do not. Lines: product, quantity.
   void Bestellung(int Nummer, const QString &Zahlungsart, const std::vector<std::pair<int, double>> &Zeilen);
+  /// Sets the client up for its shop, which offers these orders (Bestellantwort.h), for programs of their
+  /// own.
+  void Shop_einrichten(const QStringList &Bestellungen);
   void Einstellen(const char *Abschnitt, const char *Schluessel, const char *Wert);
 
+  /// Lets the books go; waits until a server has ended what killed programs had begun.
+  void Verlassen() const;
   /// Keeps the books and settings as they are now.
   void Sichern();
   /// Puts back what was kept, and starts the program anew.
@@ -35,6 +40,8 @@ class Stapelmandant {
   QString Roh(const QString &Sql) const;
   QStringList Spalte(const QString &Sql) const { return Roh(Sql).split(u'\n', Qt::SkipEmptyParts); }
   QString Einstellungsdatei() const;
+  QString Ordner() const { return Mandant_.Ordner(); }
+  SqlServer_Attrappe *Server() const { return Mandant_.Server(); }
   /// Rows of an order's document in all tables that it concerns, and its customer; drawn numbers are left out
   /// of it, so that documents of several runs can be compared.
   QString Belegbild(const QString &Kopftabelle, int Nummer) const;

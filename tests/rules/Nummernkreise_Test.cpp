@@ -9,6 +9,7 @@
 #include "db/Schema.h"
 #include "db/Verbindung.h"
 #include "host/Datenbank.h"
+#include "host/Ini.h"
 #include "host/Kontext.h"
 #include "rules/Zaehler.h"
 #include "rules/Ziehungsaufsicht.h"
@@ -119,6 +120,41 @@ TEST_P(Nummernkreise_Test, ziehen_und_hochzaehlen) {
     Nummernkreis_hochzaehlen(Rechnung);
   }
   EXPECT_EQ(Zaehler(), "0104");
+}
+
+TEST_P(Nummernkreise_Test, wer_an_einem_zweiten_Arbeitsplatz_schneller_ist_behaelt_die_Nummer) {
+  Bereich("Nr.", "0098");
+  Einstellen("Counting", "Invoice", "1");
+  int schneller = 2;
+  db::Beobachter_setzen([&](const QString &text) {
+    if (!text.startsWith(QStringLiteral("Select * from Invoice")) || schneller-- <= 0) return;
+    const QString zaehler = QStringLiteral("01%1").arg(20 - schneller);
+    const bool gut = GetParam() == 0
+                         ? Ini_schreiben(Kontext.gAfkDatei, QStringLiteral("NumberRange"), Rechnung, zaehler)
+                         : Ausfuehren({"UPDATE Options SET Value = ", db::Wert{zaehler},
+                                       " WHERE Section = 'NumberRange' AND [Key] = 'Invoice'"});
+    EXPECT_TRUE(gut);
+  });
+  EXPECT_EQ(Nummer_nehmen(Rechnung, Nummernfeld, Rechnung), QStringLiteral("0120"));
+  db::Beobachter_setzen({});
+  EXPECT_EQ(Zaehler(), "0121");
+}
+
+// A counter that can be neither written nor read was not moved by another workstation.
+TEST_P(Nummernkreise_Test, der_Server_geht_zwischen_Ziehen_und_Zaehlen_weg) {
+  if (!Mandant.Server()) GTEST_SKIP() << "only a server goes away";
+  Bereich("Nr.", "0098");
+  Einstellen("Counting", "Invoice", "1");
+  db::Beobachter_setzen([&](const QString &text) {
+    if (text != u"BEGIN") return;
+    Mandant.Server()->Stellen("ablehnen", 1);
+    Mandant.Server()->Alle_trennen();
+  });
+  EXPECT_EQ(Nummer_nehmen(Rechnung, Nummernfeld, Rechnung), QStringLiteral("0098"));
+  db::Beobachter_setzen({});
+  Mandant.Server()->Stellen("ablehnen", 0);
+  EXPECT_EQ(Nummer_nehmen(Rechnung, Nummernfeld, Rechnung), QStringLiteral("0099"));
+  EXPECT_EQ(Zaehler(), "0100");
 }
 
 TEST_P(Nummernkreise_Test, was_als_vorhanden_gilt) {

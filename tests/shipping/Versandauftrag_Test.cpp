@@ -111,7 +111,8 @@ TEST_P(Versandauftrag_Test, Company_country_and_payment_decide) {
 
 TEST_P(Versandauftrag_Test, A_second_time_makes_it_anew_and_exportable) {
   ASSERT_TRUE(Versandauftrag_erzeugen(Auftrag()));
-  ASSERT_TRUE(Ausfuehren("UPDATE LogisticsEASYLOG SET Conveyed = -1, POOL_EMPF_FAX = 'von Hand'"));
+  ASSERT_TRUE(Ausfuehren({"UPDATE LogisticsEASYLOG SET Conveyed = ", db::Zahl(int{Kontext.gSQL_True}),
+                          ", POOL_EMPF_FAX = 'von Hand'"}));
   Aendern("DeliveryCity", u"Leipzig"_qs);
   QFile::remove(Mandant.Ordner() + u"werte.xls"_qs);
   test::Dialoge_Skript dialoge;

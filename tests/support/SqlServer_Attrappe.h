@@ -22,6 +22,8 @@ class SqlServer_Attrappe {
   /// The commands of tests/tds/main.cpp and the names of tests/tds/Stoerung.h.
   void Stellen(const QByteArray &Name, int Wert) { Fragen(Name + ' ' + QByteArray::number(Wert)); }
   int Zahl(const QByteArray &Name) { return Fragen(Name).toInt(); }
+  /// The password of "sa" from now on.
+  void Kennwort_setzen(const QString &Kennwort) { Fragen("kennwort " + Kennwort.toUtf8().toHex()); }
   void Alle_trennen() { Fragen("alle-trennen"); }
 
  private:

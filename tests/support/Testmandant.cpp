@@ -3,8 +3,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <map>
-#include <memory>
 
 #include "db/Verbindung.h"
 #include "db/Zeitpunkt.h"
@@ -12,18 +10,11 @@
 #include "host/Ini.h"
 #include "host/Kontext.h"
 #include "host/Programmstart.h"
-#include "support/SqlServer_Attrappe.h"
 
 namespace marklink::test {
 namespace {
 
 const QString Firma = QStringLiteral("Test");
-
-/// With MARKLINK_LEITUNG=1 every client of type 1 has its database on a stand-in for SQL Server.
-std::map<const Testmandant *, std::unique_ptr<SqlServer_Attrappe>> &Server() {
-  static std::map<const Testmandant *, std::unique_ptr<SqlServer_Attrappe>> alle;
-  return alle;
-}
 
 }  // namespace
 
@@ -48,13 +39,12 @@ Testmandant::Testmandant(int Typ)
   Host_einstellen("program", "AddressFormat",
                   QStringLiteral("$Company$Cr$Surname $Name$Cr$Street$Cr$Zip $Town$Cr$Country"));
   if (Typ == 1 && qEnvironmentVariable("MARKLINK_LEITUNG") == u"1") {
-    auto server = std::make_unique<SqlServer_Attrappe>(Datenbankdatei());
+    Server_ = std::make_unique<SqlServer_Attrappe>(Datenbankdatei());
     Host_einstellen("Provider", "sql", QStringLiteral("SQLOLEDB.1"));
-    Host_einstellen("Connection", "DataSource", QStringLiteral("127.0.0.1,%1").arg(server->Port()));
+    Host_einstellen("Connection", "DataSource", QStringLiteral("127.0.0.1,%1").arg(Server_->Port()));
     Host_einstellen("Connection", "LoginTimeout", QStringLiteral("5"));
     Host_einstellen("Connection", "UserID", QStringLiteral("sa"));
     Host_einstellen("Connection", "Password", QStringLiteral("geheim"));
-    Server()[this] = std::move(server);
   }
   const QString liste = Ordner() + QStringLiteral("mandanten.ini");
   Ini_schreiben(liste, Firma, QStringLiteral("databasetype"), QString::number(Typ));
@@ -84,7 +74,6 @@ Testmandant::~Testmandant() {
   db::Beobachter_setzen({});
   db::Fehler_einspeisen(0);
   db::Verbindungen_schliessen();
-  Server().erase(this);
   Kontext = {};
   Programmordner_setzen({});
   Uhr_setzen(nullptr);
@@ -97,6 +86,14 @@ Testmandant::~Testmandant() {
 QString Testmandant::Ordner() const { return Ordner_.path() + QDir::separator(); }
 
 QString Testmandant::Datenbankdatei() const { return Ordner() + Firma + QStringLiteral(".mdb"); }
+
+void Testmandant::Buecher_zerstoeren() {
+  db::Verbindungen_schliessen();
+  Server_.reset();
+  QFile datei(Datenbankdatei());
+  ASSERT_TRUE(datei.open(QIODevice::ReadWrite));
+  datei.write(QByteArray(4096, 'x'));
+}
 
 void Testmandant::Starten() {
   Kontext = {};

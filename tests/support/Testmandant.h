@@ -6,6 +6,7 @@
 
 #include "db/Recordset.h"
 #include "host/Uhr.h"
+#include "support/SqlServer_Attrappe.h"
 
 namespace marklink::test {
 
@@ -29,6 +30,10 @@ class Testmandant {
   int Typ() const { return Typ_; }
   QString Ordner() const;  ///< with its trailing separator
   QString Datenbankdatei() const;
+  /// What the books of a client of type 1 are on with MARKLINK_LEITUNG=1; otherwise nullptr.
+  SqlServer_Attrappe *Server() const { return Server_.get(); }
+  /// Damages the books; those on a server go with it.
+  void Buecher_zerstoeren();
   /// Writes a setting of the client and runs the start-up again.
   void Einstellen(const char *Abschnitt, const char *Schluessel, const QString &Wert);
   /// Writes a key of the host configuration; takes effect with the next Starten().
@@ -43,6 +48,7 @@ class Testmandant {
   int Typ_;
   QTemporaryDir Ordner_;
   QByteArray Tmp_vorher_;
+  std::unique_ptr<SqlServer_Attrappe> Server_;
 };
 
 /// Every test of such a fixture runs for both database types.

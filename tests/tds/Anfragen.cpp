@@ -6,6 +6,7 @@
 
 #include "Katalog.h"
 #include "Stoerung.h"
+#include "support/Mitschrift.h"
 
 namespace marklink::tds {
 
@@ -140,6 +141,7 @@ bool Sitzung::Alles_ausfuehren(const Vorbereitetes &V, const Parameterliste &Wer
 }
 
 bool Sitzung::Vorbereiten(const QString &Text, const QString &Deklaration, Vorbereitetes &Ziel) {
+  test::In_Mitschrift("leitung", Text);
   const auto saetze = Zerteilen(Text);
   if (!saetze) return false;
   for (const Satz &satz : *saetze) Ziel.Plaene.push_back(Planen(satz));
@@ -179,10 +181,7 @@ void Sitzung::Rufe(Leser &L) {
       return;
     }
     if (!L.Ende()) L.Ganz(1);
-    if (werte.size() > Werte_hoechstens) {
-      Scheitern(Fehler_bilden(8003), Ort::Stapel);
-      return;
-    }
+    if (werte.size() > Werte_hoechstens) return void(Scheitern(Fehler_bilden(8003), Ort::Stapel));
     Protokollieren(QStringLiteral("CALL %1%2").arg(name).arg(nummer), werte);
     Prozedur(nummer, name.section(u'.', -1), werte);
   }
@@ -274,7 +273,11 @@ void Bedienen(Leitung &L, const QByteArray &Datei, const QString &Katalog) {
       antwort.Abbruch_bestaetigen();
     } else {
       if (faellig(s.Trennen)) return;
-      if (faellig(s.Verstummen)) s.Langsam = 60000;
+      if (faellig(s.Verstummen)) {
+        while (L.Lesen(n)) {
+        }
+        return;
+      }
       ++s.Anfragen;
       // Who speaks up while it waits has given up waiting: the confirmation of that is all the reply there
       // is.

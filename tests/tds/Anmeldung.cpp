@@ -45,6 +45,11 @@ bool Anmelden(Leitung &L, const Zugang &Erlaubt, QString &Katalog) {
   if (s.Ablehnen == 2) return false;
   if (s.Ablehnen == 3) return L.Lesen(n) && false;
   Antwort a(L);
+  if (s.Ablehnen == 4)
+    a.melden(
+        {4060,
+         QStringLiteral("Cannot open database \"%1\" requested by the login. The login failed.").arg(Katalog),
+         11});
   if (s.Ablehnen != 0 || benutzer.compare(Erlaubt.Benutzer, Qt::CaseInsensitive) != 0 ||
       Feld_lesen(n.Inhalt, 44, true) != Erlaubt.Kennwort) {
     a.melden({18456, QStringLiteral("Login failed for user '%1'.").arg(benutzer), 14});

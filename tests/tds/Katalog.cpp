@@ -26,6 +26,17 @@ Katalogtyp Katalogtyp_von(const Typ &T, bool Odbc3) {
   return Feste[static_cast<std::size_t>(T.F)];
 }
 
+/// Types that share their place on the wire with another keep their names.
+QString Typname(const QString &Deklaration, const Katalogtyp &K) {
+  static const QStringList eigene =
+      QStringLiteral(
+          "text ntext image char nchar varchar real money smallmoney decimal numeric smalldatetime "
+          "date datetime2 timestamp")
+          .split(u' ');
+  const QString name = Deklaration.section(u'(', 0, 0).toLower();
+  return eigene.contains(name) ? name : QString::fromLatin1(K.Name);
+}
+
 /// "NAME" is text, "NAME:s" smallint, "NAME:i" int.
 qint64 Senden(Antwort &A, const char *Beschreibung, const Zeilen &Alle) {
   std::vector<Spalte> spalten;
@@ -68,12 +79,15 @@ qint64 Spalten_nennen(const Variablen &V, Maschine &M, Antwort &A) {
     const Katalogtyp k = Katalogtyp_von(typ, odbc3);
     const bool pflicht = r[3].Ganz != 0 || r[6].Ganz != 0;
     const bool zahl = typ.F != Form::Text && typ.F != Form::Binaer && typ.F != Form::Datum;
-    const QString name = QLatin1String(k.Name) + (r[6].Ganz ? QStringLiteral(" identity") : QString());
+    const QString name = Typname(r[2].Text(), k) + (r[6].Ganz ? QStringLiteral(" identity") : QString());
     const bool bytes = typ.F == Form::Text || typ.F == Form::Binaer;
+    const QStringList masse =
+        r[2].Text().section(u'(', 1).chopped(r[2].Text().contains(u'(') ? 1 : 0).split(u',');
+    const bool dezimal = masse.size() == 2;  // decimal(10,2)
     zeilen.push_back({Wert::aus(M.Katalog), Wert::aus(QStringLiteral("dbo")), r[0], r[1], Zahl(k.Odbc),
-                      Wert::aus(name), Zahl(k.Genauigkeit), Zahl(k.Laenge),
+                      Wert::aus(name), Zahl(dezimal ? masse[0].toInt() : k.Genauigkeit), Zahl(k.Laenge),
                       typ.F == Form::Datum ? Zahl(3)
-                      : zahl               ? Zahl(0)
+                      : zahl               ? Zahl(dezimal ? masse[1].toInt() : 0)
                                            : Wert(),
                       zahl ? Zahl(10) : Wert(), Zahl(pflicht ? 0 : 1), Wert(), r[4],
                       typ.F == Form::Datum ? Zahl(9) : Zahl(k.Odbc), typ.F == Form::Datum ? Zahl(3) : Wert(),

@@ -2,7 +2,9 @@
 #include "Maschine.h"
 
 #include <QDateTime>
+#include <QVariant>
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include "Stoerung.h"
@@ -59,6 +61,41 @@ void Aehnlichkeit(sqlite3_context *U, int, sqlite3_value **W) {
                      db::Utf8_aehnlich({text.constData(), text.size()}, {muster.constData(), muster.size()}));
 }
 
+/// What a column of that type makes of a value; only where it is another one then.
+QVariant Gewandelt(const QString &Typ, const QVariant &Wert) {
+  const QString name = Typ.section(u'(', 0, 0),
+                masse = Typ.section(u'(', 1).chopped(Typ.contains(u'(') ? 1 : 0);
+  const int stellen = name.endsWith(u"money") ? 4 : masse.section(u',', 1).toInt();
+  if (name == u"real") return static_cast<double>(Wert.toFloat());
+  if (name.endsWith(u"money") || name == u"decimal" || name == u"numeric")
+    return std::round(Wert.toDouble() * std::pow(10.0, stellen)) / std::pow(10.0, stellen);
+  if (name == u"date") return QVariant(Wert.toString().left(10) + QStringLiteral(" 00:00:00"));
+  if (name == u"smalldatetime") {
+    const QDateTime zeit = QDateTime::fromString(Wert.toString(), QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    const QDateTime minute = zeit.addSecs(30);
+    return minute.toString(QStringLiteral("yyyy-MM-dd hh:mm:00"));
+  }
+  const bool kurz = name.endsWith(u"varchar") && masse.toInt() > 0;
+  return kurz ? QVariant(Wert.toString().left(masse.toInt())) : QVariant();
+}
+
+/// marklink_wandlung(type, value): CONVERT
+void Wandlung(sqlite3_context *U, int, sqlite3_value **W) {
+  const int art = sqlite3_value_type(W[1]);
+  if (art == SQLITE_NULL) return;
+  if (art == SQLITE_BLOB) return sqlite3_result_value(U, W[1]);
+  const bool zahl = art == SQLITE_FLOAT || art == SQLITE_INTEGER;
+  const QVariant neu = Gewandelt(Textargument(W[0]),
+                                 zahl ? QVariant(sqlite3_value_double(W[1])) : QVariant(Textargument(W[1])));
+  const QByteArray text = neu.toString().toUtf8();
+  if (!neu.isValid())
+    sqlite3_result_value(U, W[1]);
+  else if (neu.typeId() == QMetaType::Double)
+    sqlite3_result_double(U, neu.toDouble());
+  else
+    sqlite3_result_text(U, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+}
+
 void Einrichten(sqlite3 *Db) {
   sqlite3_busy_timeout(Db, Wartezeit_ms);
   sqlite3_extended_result_codes(Db, 1);
@@ -68,6 +105,8 @@ void Einrichten(sqlite3 *Db) {
   sqlite3_create_collation(Db, "MARKLINK", SQLITE_UTF8, nullptr, Ohne_Ansehen);
   sqlite3_collation_needed(Db, nullptr, Sortierung_nachreichen);
   sqlite3_create_function(Db, "like", 2, SQLITE_UTF8, nullptr, Aehnlichkeit, nullptr, nullptr);
+  sqlite3_create_function(Db, "marklink_wandlung", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, Wandlung,
+                          nullptr, nullptr);
   Funktion(Db, "getdate", [](const QString &) {
     return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
   });
@@ -149,9 +188,11 @@ Meldung Fehler_bilden(int Nummer, const QString &Was) {
       {207, 16, "Invalid column name '%2'."},
       {208, 16, "Invalid object name '%1'."},
       {241, 16, "Conversion failed when converting date and/or time from character string."},
+      {421, 16, "The %1 data type cannot be selected as DISTINCT because it is not comparable."},
       {515, 16,
        "Cannot insert the value NULL into column '%2', table 'dbo.%1'; column does not allow nulls. INSERT "
        "fails."},
+      {547, 16, "The INSERT statement conflicted with the CHECK constraint \"CK_1\"."},
       {1205, 13,
        "Transaction (Process ID 52) was deadlocked on lock resources with another process and has been "
        "chosen "
@@ -160,6 +201,9 @@ Meldung Fehler_bilden(int Nummer, const QString &Was) {
       {2601, 14, "Cannot insert duplicate key row in object 'dbo.%1' with unique index."},
       {2627, 14,
        "Violation of PRIMARY KEY constraint 'PK_%1'. Cannot insert duplicate key in object 'dbo.%1'."},
+      {2628, 16,
+       "String or binary data would be truncated in table 'demo.dbo.T', column 'C'. Truncated value: "
+       "'4711'."},
       {2714, 16, "There is already an object named '%1' in the database."},
       {2812, 16, "Could not find stored procedure '%1'."},
       {3902, 16, "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION."},
@@ -292,6 +336,14 @@ Meldung Maschine::Ausfuehren(const Plan &P, const Variablen &V, Antwort &A, qint
   if (P.A == Plan::Art::Daten && faellig(s.Fehler)) {
     if (s.Fehlernummer == 1205) Zurueckrollen();  // a deadlock's victim loses everything
     return Fehler_bilden(s.Fehlernummer, QStringLiteral("eingespeist"));
+  }
+  for (const QString &spalte : P.Verglichene) {
+    const char *typ = nullptr;
+    sqlite3_table_column_metadata(Db_, nullptr, P.Tabelle.toUtf8().constData(), spalte.toUtf8().constData(),
+                                  &typ, nullptr, nullptr, nullptr, nullptr);
+    for (const char *alter : {"text", "ntext", "image"}) {
+      if (typ && qstricmp(typ, alter) == 0) return Fehler_bilden(421, QString::fromLatin1(typ));
+    }
   }
   sqlite3_stmt *stmt = vorbereiten(P.Text);
   if (!stmt) return Fehler();

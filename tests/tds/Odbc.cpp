@@ -57,16 +57,15 @@ Parameter Textwert(const QString &Text) {
           static_cast<SQLULEN>(qMax<qsizetype>(1, Text.size()))};
 }
 
-Odbc::Odbc(int Port, const QString &Kennwort, int Wartezeit) {
+Odbc::Odbc(int Port) {
   SQLAllocHandle(SQL_HANDLE_ENV, SQL_NULL_HANDLE, &Umgebung_);
   SQLSetEnvAttr(Umgebung_, SQL_ATTR_ODBC_VERSION, Zahl(SQL_OV_ODBC3), 0);
   SQLAllocHandle(SQL_HANDLE_DBC, Umgebung_, &Verbindung_);
-  SQLSetConnectAttr(Verbindung_, SQL_ATTR_LOGIN_TIMEOUT, Zahl(Wartezeit), 0);
+  SQLSetConnectAttr(Verbindung_, SQL_ATTR_LOGIN_TIMEOUT, Zahl(5), 0);
   const QString text =
-      QStringLiteral("DRIVER=%1;SERVER=127.0.0.1;PORT=%2;UID=sa;PWD=%3;DATABASE=demo;TDS_Version=7.4;")
+      QStringLiteral("DRIVER=%1;SERVER=127.0.0.1;PORT=%2;UID=sa;PWD=geheim;DATABASE=demo;TDS_Version=7.4;")
           .arg(Treiber_finden())
-          .arg(Port)
-          .arg(Kennwort);
+          .arg(Port);
   Verbunden_ = pruefen(
       SQLDriverConnectW(Verbindung_, nullptr, Breit(text), SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
       SQL_HANDLE_DBC, Verbindung_);
@@ -144,12 +143,6 @@ bool Odbc::Selbst_abschliessen(bool An) {
 bool Odbc::Abschliessen(bool Gut) {
   return pruefen(SQLEndTran(SQL_HANDLE_DBC, Verbindung_, Gut ? SQL_COMMIT : SQL_ROLLBACK), SQL_HANDLE_DBC,
                  Verbindung_);
-}
-
-bool Odbc::Tot() {
-  SQLUINTEGER tot = 0;
-  SQLGetConnectAttr(Verbindung_, SQL_ATTR_CONNECTION_DEAD, &tot, sizeof tot, nullptr);
-  return tot == SQL_CD_TRUE;
 }
 
 }  // namespace marklink::test

@@ -24,7 +24,7 @@ Parameter Textwert(const QString &Text);
 class Odbc {
  public:
   /// To 127.0.0.1; Fehler() tells why it is not Verbunden().
-  explicit Odbc(int Port, const QString &Kennwort = QStringLiteral("geheim"), int Wartezeit = 5);
+  explicit Odbc(int Port);
   ~Odbc();
   Odbc(const Odbc &) = delete;
   Odbc &operator=(const Odbc &) = delete;
@@ -38,7 +38,6 @@ class Odbc {
   QString Zeilen(const QList<int> &Spalten = {});
   bool Selbst_abschliessen(bool An);
   bool Abschliessen(bool Gut);
-  bool Tot();
   /// "STATE number text" of the last failure
   QString Fehler() const { return Fehler_; }
   SQLHSTMT Stmt() const { return Stmt_; }

@@ -37,8 +37,23 @@ Satz Besitzer_streichen(Satz S) {
   return S;
 }
 
-/// TOP (n) is TOP n; WITH (...) behind a table is a hint; CONVERT of a variable to a moment is the variable,
-/// moments being text.
+/// CONVERT(typ, x, ...) at `i` as a call of a function that Maschine brings; of a text it stays.
+Satz Wandlung_umschreiben(Satz S, std::size_t i) {
+  const auto teile = Liste_teilen(S, i + 2, Klammerende(S, i + 1));
+  if (teile.size() < 2 || teile[0].empty() || teile[1].empty() || teile[1][0].A == Marke::Art::Text) return S;
+  QString typ;
+  for (const Marke &m : teile[0]) typ += m.Inhalt.toLower();
+  Satz neu(S.begin(), S.begin() + static_cast<std::ptrdiff_t>(i));
+  neu.push_back({Marke::Art::Wort, QStringLiteral("marklink_wandlung")});
+  neu.push_back(S[i + 1]);
+  neu.push_back({Marke::Art::Text, typ});
+  neu.push_back({Marke::Art::Zeichen, QStringLiteral(",")});
+  neu.insert(neu.end(), teile[1].begin(), teile[1].end());
+  neu.insert(neu.end(), S.begin() + static_cast<std::ptrdiff_t>(Klammerende(S, i + 1)), S.end());
+  return neu;
+}
+
+/// TOP (n) is TOP n; WITH (...) behind a table is a hint.
 Satz Eigenheiten_ersetzen(Satz S) {
   for (std::size_t i = 0; i < S.size(); ++i) {
     if (S[i].ist("(") && bei(S, i + 1, "max") && bei(S, i + 2, ")")) {
@@ -49,11 +64,8 @@ Satz Eigenheiten_ersetzen(Satz S) {
       S = ohne(ohne(S, i + 3, i + 4), i + 1, i + 2);
     } else if (S[i].ist("WITH") && bei(S, i + 1, "(")) {
       S = ohne(S, i, Klammerende(S, i + 1) + 1);
-    } else if (S[i].ist("CONVERT") && bei(S, i + 1, "(") && i + 5 < S.size() &&
-               S[i + 4].A == Marke::Art::Variable) {
-      const Marke variable = S[i + 4];
-      S = ohne(S, i, Klammerende(S, i + 1));
-      S[i] = variable;
+    } else if (S[i].ist("CONVERT") && bei(S, i + 1, "(")) {
+      S = Wandlung_umschreiben(S, i);
     } else if (S[i].ist("LEN") && bei(S, i + 1, "(")) {
       S[i].Inhalt = QStringLiteral("length");
     } else if (S[i].ist("SCOPE_IDENTITY") && bei(S, i + 1, "(")) {
@@ -120,7 +132,20 @@ QString Fremdes_Wort(const Satz &S) {
   return {};
 }
 
+/// SELECT [column] ... INTERSECT: what is compared there as it is.
+void Verglichene_merken(const Satz &S, Plan &P) {
+  std::size_t tabelle = bei(S, 0, "DELETE") ? 2 : 1;
+  if (!bei(S, 0, "UPDATE") && !bei(S, 0, "DELETE")) return;
+  if (bei(S, 1, "TOP")) tabelle += Klammerende(S, 2);
+  P.Tabelle = Tabellenname(S, tabelle);
+  for (std::size_t i = 0; i + 2 < S.size(); ++i) {
+    const bool schlicht = S[i].ist("SELECT") && (S[i + 2].ist("INTERSECT") || S[i + 2].ist("COLLATE"));
+    if (schlicht) P.Verglichene.append(S[i + 1].Inhalt);
+  }
+}
+
 bool Daten_planen(const Satz &S, Plan &P) {
+  Verglichene_merken(S, P);
   std::vector<Bindung> variablen;
   const Satz umgestellt = Top_umstellen(Eigenheiten_ersetzen(Besitzer_streichen(S)));
   const auto uebersetzt =

@@ -5,6 +5,8 @@
 // changed before: owners ("dbo."), variables, TOP of an UPDATE or DELETE, hints.
 #pragma once
 
+#include <QStringList>
+
 #include "Antwort.h"
 #include "Zerteilung.h"
 
@@ -33,6 +35,8 @@ struct Plan {
   bool An = false;
   QString Text{};  ///< SQL for the engine
   std::vector<Bindung> Bindungen{};
+  QString Tabelle{};          ///< that an UPDATE or DELETE writes to
+  QStringList Verglichene{};  ///< its columns that INTERSECT compares
 };
 
 Plan Planen(const Satz &S);

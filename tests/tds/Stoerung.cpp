@@ -23,10 +23,10 @@ std::atomic<int> *Zahl_finden(const QByteArray &Name) {
                                                               {"anmeldungen", &s.Anmeldungen},
                                                               {"ablehnen", &s.Ablehnen},
                                                               {"langsam", &s.Langsam},
-                                                              {"verstummen", &s.Verstummen},
                                                               {"trennen", &s.Trennen},
                                                               {"trennen-danach", &s.Trennen_danach},
                                                               {"trennen-mitten", &s.Trennen_mitten},
+                                                              {"verstummen", &s.Verstummen},
                                                               {"fehler", &s.Fehler},
                                                               {"fehlernummer", &s.Fehlernummer},
                                                               {"protokoll", &s.Protokoll}};

@@ -12,13 +12,14 @@ namespace marklink::tds {
 struct Stoerung {
   std::atomic<int> Anfragen;  ///< "anfragen": requests answered, that is round trips; logins not among them
   std::atomic<int> Anmeldungen;  ///< "anmeldungen": logins that were granted
-  std::atomic<int> Ablehnen;     ///< "ablehnen": 1 refuses every login, 2 hangs up on it, 3 never answers
-  std::atomic<int> Langsam;      ///< "langsam": milliseconds before each request is served
-  std::atomic<int> Verstummen;   ///< "verstummen": "langsam" becomes a minute at the n-th request
-  std::atomic<int> Trennen;      ///< "trennen": hangs up instead of serving the n-th request
+  std::atomic<int> Ablehnen;  ///< "ablehnen": 1 refuses every login, 2 hangs up on it, 3 never answers, 4 has
+                              ///< no such catalogue
+  std::atomic<int> Langsam;   ///< "langsam": milliseconds before each request is served
+  std::atomic<int> Trennen;   ///< "trennen": hangs up instead of serving the n-th request
   std::atomic<int>
       Trennen_danach;  ///< "trennen-danach": serves the n-th request and hangs up without a reply
   std::atomic<int> Trennen_mitten;  ///< "trennen-mitten": hangs up in the middle of the n-th reply
+  std::atomic<int> Verstummen;      ///< "verstummen": never again answers who sends the n-th request
   std::atomic<int> Fehler;          ///< "fehler": the n-th statement on data fails by ...
   std::atomic<int> Fehlernummer;    ///< "fehlernummer": ... this error
   std::atomic<int> Protokoll;       ///< "protokoll": 1 shows every request on standard error

@@ -139,7 +139,7 @@ Typ Typ_aus_Deklaration(const QString &Deklaration) {
     const QStringList worte =
         QStringLiteral(
             "bit boolean,tinyint smallint,int integer,bigint,float real double decimal numeric money,"
-            "datetime datetime2 smalldatetime date,,varbinary binary image blob")
+            "datetime datetime2 smalldatetime date,,varbinary binary image blob timestamp")
             .split(u',');
     QHash<QString, Form> formen;
     for (int i = 0; i < 8; ++i)

@@ -6,6 +6,7 @@
 //
 //   NAME          the number of that name (see Stoerung.h)
 //   NAME ZAHL     sets it; "ok"
+//   kennwort HEX  the password from now on, its UTF-8 in hexadecimal digits; "ok"
 //   verbindungen  how many clients are connected
 //   alle-trennen  hangs up on all of them, whatever they are at; "ok"
 //
@@ -18,6 +19,7 @@
 // server, no procedures but the catalogue's, no DECLARE, IF, OUTPUT, MERGE, INFORMATION_SCHEMA and triggers.
 // Index names are unique in the whole database; several rows without a value do not hurt a unique index.
 #include <arpa/inet.h>
+#include <netinet/tcp.h>
 #include <poll.h>
 #include <signal.h>
 #include <sys/prctl.h>
@@ -79,6 +81,9 @@ void Alle_trennen(Betrieb &B) {
 void Annehmen(Betrieb &B) {
   const int socket = ::accept(B.Lauscher, nullptr, nullptr);
   if (socket < 0) return;
+  // The end of a reply of several packets is not held back until its beginning is confirmed, 40 ms later.
+  const int ja = 1;
+  ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &ja, sizeof ja);
   const pid_t vater = ::getpid();
   const pid_t kind = ::fork();
   if (kind == 0) {
@@ -100,6 +105,10 @@ QByteArray Befehl_ausfuehren(Betrieb &B, const QByteArray &Zeile) {
   if (worte[0] == "verbindungen") return QByteArray::number(static_cast<int>(B.Kinder.size()));
   if (worte[0] == "alle-trennen") {
     Alle_trennen(B);
+    return "ok";
+  }
+  if (worte[0] == "kennwort" && worte.size() == 2) {
+    B.Erlaubt.Kennwort = QString::fromUtf8(QByteArray::fromHex(worte[1]));
     return "ok";
   }
   std::atomic<int> *zahl = Zahl_finden(worte[0]);
