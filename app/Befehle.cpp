@@ -18,21 +18,38 @@ const Optionsbeschreibung Zeitraum{
 const Optionsbeschreibung Alle{
     QStringLiteral("alle"), {}, QStringLiteral("statt Nummern: alle Bestellungen")};
 
+/// The type, and where a client of type 1 lies.
+std::vector<Optionsbeschreibung> Mandantenoptionen() {
+  return {
+      Typ,
+      {QStringLiteral("server"), QStringLiteral("ADRESSE"),
+       QStringLiteral("Typ 1: der SQL Server, auf dem der Katalog mit dem Namen des Mandanten liegt, etwa "
+                      "server,1433 oder server\\instanz (Vorgabe: der Server der Hostkonfiguration, "
+                      "ohne einen die eingebettete Datenbank)")},
+      {QStringLiteral("anmeldung"), QStringLiteral("BENUTZER"),
+       QStringLiteral("Anmeldung am Server; das Kennwort steht in MARKLINK_KENNWORT oder wird gefragt "
+                      "(eine Zeile der Standardeingabe)")},
+      {QStringLiteral("integriert"), {}, QStringLiteral("statt --anmeldung: mit Kerberos")},
+      {QStringLiteral("wartezeit"), QStringLiteral("SEKUNDEN"),
+       QStringLiteral("wie lange eine Anmeldung und eine Anweisung dauern dürfen (Vorgabe: 30)")}};
+}
+
 std::vector<Befehl> Mandantenbefehle() {
   const QString gruppe = QStringLiteral("mandant");
+  std::vector<Optionsbeschreibung> demo = Mandantenoptionen();
+  demo.push_back({QStringLiteral("port"), QStringLiteral("N"),
+                  QStringLiteral("Port des Demoshops auf diesem Rechner (Vorgabe: 8080)")});
   return {
       {gruppe,
        QStringLiteral("anlegen"),
        {{QStringLiteral("NAME")}},
-       {Typ},
+       Mandantenoptionen(),
        QStringLiteral("legt einen neuen Mandanten mit Datenbank, Stammdaten und Einstellungen an"),
        &Befehl_Mandant_anlegen},
       {gruppe,
        QStringLiteral("demo"),
        {},
-       {Typ,
-        {QStringLiteral("port"), QStringLiteral("N"),
-         QStringLiteral("Port des Demoshops auf diesem Rechner (Vorgabe: 8080)")}},
+       demo,
        QStringLiteral("legt den Demomandanten mit Artikeln, Beständen und Preisen an"),
        &Befehl_Mandant_demo},
   };

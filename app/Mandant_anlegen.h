@@ -3,8 +3,10 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
 #include <vector>
 
+#include "Serverzugang.h"
 #include "stammdaten/Stammdaten.h"
 
 namespace marklink {
@@ -16,6 +18,8 @@ struct Mandantenplan {
   std::vector<app::Einstellung> Einstellungen{};  ///< on top of those of every new client
   /// Adds further rows while the program context points at the new database; false gives the client up.
   std::function<bool()> Nachtragen{};
+  /// For type 1: where the server is. Without it the host configuration says whether there is one.
+  std::optional<Serverzugang> Server{};
 };
 
 /// Empty when the client is there; else why not, and then nothing of it is left behind. The client list is
