@@ -4,6 +4,7 @@
 #include "Mandantenliste.h"
 #include "db/Treiber.h"
 #include "host/Ini.h"
+#include "host/Verbindungstext.h"
 #include "host/Zahlen.h"
 
 namespace marklink {
@@ -21,15 +22,8 @@ bool Derselbe_Ort(const Serverzugang &A, const Serverzugang &B) {
 }  // namespace
 
 QString Serverzugang::Verbindungstext(const QString &Katalog) const {
-  // In the order in which a value may hold what parts them.
-  const QString anbieter = QStringLiteral("Provider=") + Anbieter;
-  const QString wartezeit = QStringLiteral(";Connect Timeout=") + QString::number(Wartezeit);
-  if (Integriert)
-    return anbieter + QStringLiteral(";Data Source=") + Adresse + QStringLiteral(";Initial Catalog=") +
-           Katalog + QStringLiteral(";Integrated Security=SSPI") + wartezeit;
-  return anbieter + QStringLiteral(";User ID=") + Anmeldung + QStringLiteral(";Password=") + Kennwort +
-         QStringLiteral(";Initial Catalog=") + Katalog + QStringLiteral(";Data Source=") + Adresse +
-         QStringLiteral(";Persist Security Info=False") + wartezeit;
+  return Serververbindung_bilden(Anbieter, Katalog, Adresse, Integriert ? 1 : 0, Wartezeit, Anmeldung,
+                                 Kennwort);
 }
 
 bool Ist_Server(const QString &Anbieter) { return db::Treiber_waehlen(Anbieter) == &db::ODBC_Treiber(); }

@@ -136,8 +136,8 @@ ODBC_Sitzung::Ausgang ODBC_Sitzung::versuchen(const Anweisung &Sql, Ergebnis &Zi
   }
   // What changes rows has a transaction, too: until that ends nothing is written, and it may start again.
   const bool allein = !plan->Liest && !In_Stapel_;
-  if (allein && !Transaktion_.Beginnen(Meldung_)) {
-    scheitern(Odbc_Meldung(Meldung_));
+  if (allein && !Transaktion_.Beginnen(meldung)) {
+    scheitern(meldung);
     return gescheitert();
   }
   Odbc_Parameter werte;
@@ -182,9 +182,10 @@ void ODBC_Sitzung::Offenes_aufgeben() {
 }
 
 bool ODBC_Sitzung::Beginnen() {
-  for (int versuch = 0; !Transaktion_.Beginnen(Meldung_); ++versuch) {
-    scheitern(Odbc_Meldung(Meldung_));
-    if (!Verloren_ || Meldung_.Gewartet || versuch > 0 || !Verbinden()) return false;
+  Odbc_Meldung meldung;
+  for (int versuch = 0; !Transaktion_.Beginnen(meldung); ++versuch) {
+    scheitern(meldung);
+    if (!Verloren_ || meldung.Gewartet || versuch > 0 || !Verbinden()) return false;
   }
   In_Stapel_ = true;
   Unberuehrt_ = true;

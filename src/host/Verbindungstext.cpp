@@ -1,4 +1,6 @@
 // The connection string of a client, in the form that its database type asks for.
+#include "Verbindungstext.h"
+
 #include "Datenbank.h"
 #include "Ini.h"
 #include "Kontext.h"
@@ -27,8 +29,15 @@ QString Connection_String_bilden(const QString &Datenbank, const QString &Server
   if (Datenbanktyp == 0)
     return QStringLiteral("Provider=") + Anbieter("access") + QStringLiteral(";Data Source=") + Datenbank +
            QStringLiteral(";Jet OLEDB:Database Password=") + Passwort;
+  return Serververbindung_bilden(Anbieter("sql"), Datenbank, Server, Authentifizierung, Wartezeit, Benutzer,
+                                 Passwort);
+}
+
+QString Serververbindung_bilden(const QString &Anbieter, const QString &Datenbank, const QString &Server,
+                                int Authentifizierung, int Wartezeit, const QString &Benutzer,
+                                const QString &Passwort) {
   const QString wartezeit = QStringLiteral("Connect Timeout=") + QString::number(Wartezeit);
-  const QString anbieter = QStringLiteral("Provider=") + Anbieter("sql") + u';';
+  const QString anbieter = QStringLiteral("Provider=") + Anbieter + u';';
   if (Authentifizierung == 0)
     return anbieter + QStringLiteral("User ID=") + Benutzer + QStringLiteral(";Password=") + Passwort +
            QStringLiteral(";Initial Catalog=") + Datenbank + QStringLiteral(";Data Source=") + Server +

@@ -137,7 +137,7 @@ void Nummernkreis_hochzaehlen(const QString &Bereich) {
 
 QString Nummer_nehmen(const QString &Tabelle, const QString &Feld, const QString &Bereich,
                       Leere_Nummer Leere) {
-  // A bound, since settings that can neither be written nor read look like another workstation's.
+  // A bound: each round somebody else has moved the counter.
   for (int versuche = 100;; --versuche) {
     const Ziehung z = Ziehen(Tabelle, Feld, Bereich);
     const bool unbrauchbar = Leere == Leere_Nummer::Zaehlt ? z.Nummer.isNull() : z.Nummer.isEmpty();

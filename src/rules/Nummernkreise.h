@@ -38,10 +38,12 @@ QString Nummer_ziehen(const QString &Tabelle, const QString &Feld, const QString
 /// Moves the counter by one, unless counting is switched off for the range ("0").
 void Nummernkreis_hochzaehlen(const QString &Bereich);
 
+/// What a range without a format gives, an empty number, does to its counter.
+enum class Leere_Nummer { Zaehlt_nicht, Zaehlt };
+
 /// Both at once: draws a number and moves the counter, and draws again where another workstation has moved it
 /// in the meantime. With counting switched off two workstations can still get the same one. A number that
 /// could not be drawn (null) is not counted; an empty one, of a range without a format, as is said.
-enum class Leere_Nummer { Zaehlt_nicht, Zaehlt };
 QString Nummer_nehmen(const QString &Tabelle, const QString &Feld, const QString &Bereich,
                       Leere_Nummer Leere = Leere_Nummer::Zaehlt_nicht);
 
